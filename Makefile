@@ -1,0 +1,44 @@
+# A thin wrapper over CMake. `make run` and `make test` install what is
+# missing (through apt), build, and run.
+BUILD ?= build
+FUZZ_BUILD ?= build-fuzz
+BENCH_BUILD ?= build-bench
+JOBS ?= $(shell nproc)
+FUZZ_SECONDS ?= 20
+CMAKE_FLAGS ?=
+
+.PHONY: all deps build run test fuzz bench screenshots clean
+
+all: build
+
+deps:
+	@scripts/install-deps.sh
+
+build: deps
+	@cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVOREL_WERROR=ON $(CMAKE_FLAGS) > /dev/null
+	@cmake --build $(BUILD) -j $(JOBS)
+
+run: build
+	@scripts/run-desktop.sh $(BUILD)
+
+test: build
+	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+	@$(MAKE) --no-print-directory fuzz
+
+fuzz: deps
+	@cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
+	  -DVOREL_GUI=OFF -DVOREL_TESTS=OFF -DVOREL_FUZZ=ON > /dev/null
+	@cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_problem_file
+	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_problem_file $(FUZZ_SECONDS)
+
+bench: deps
+	@cmake -S . -B $(BENCH_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release -DVOREL_GUI=OFF \
+	  -DVOREL_TESTS=OFF -DVOREL_BENCH=ON > /dev/null
+	@cmake --build $(BENCH_BUILD) -j $(JOBS) --target vorel_bench
+	@$(BENCH_BUILD)/bench/vorel_bench
+
+screenshots: build
+	@scripts/screenshots.sh $(BUILD)
+
+clean:
+	rm -rf $(BUILD) $(FUZZ_BUILD) $(BENCH_BUILD)

@@ -1,0 +1,31 @@
+#include "tests/test_support.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+namespace vorel::testing {
+
+std::string tempPath(const std::string& name) {
+  static const std::filesystem::path dir = [] {
+    auto d = std::filesystem::temp_directory_path() / ("vorel-tests-" + std::to_string(getpid()));
+    std::filesystem::create_directories(d);
+    return d;
+  }();
+  static int counter = 0;
+  return (dir / (std::to_string(++counter) + "-" + name)).string();
+}
+
+std::string readBytes(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+void writeBytes(const std::string& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+}  // namespace vorel::testing
