@@ -1,0 +1,34 @@
+// The models the command-line program knows, by short id and entry screen.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "frame/model.h"
+
+namespace vorel::cli {
+
+struct CliModel {
+  std::string id;       // short, lower-case, ASCII: "cep"
+  std::string screen;   // the entry screen's name: "GI_CantidadEconómicaPedido"
+  std::string presses;  // commands pressed before Resolver, for --help; empty if none
+  std::function<RunOutcome(const std::string& path)> run;
+  std::function<std::string(const std::string& path)> resave;  // see vorel::resave
+};
+
+template <class Fields>
+CliModel entry(std::string id, std::string screen, std::string presses,
+               void (*exchange)(ProblemFile&, Fields&), Messages (*check)(const Fields&),
+               Pages (*solveAndReport)(Fields&)) {
+  return {std::move(id), std::move(screen), std::move(presses),
+          [=](const std::string& path) {
+            return runFromFile<Fields>(path, exchange, check, solveAndReport);
+          },
+          [=](const std::string& path) { return resave<Fields>(path, exchange); }};
+}
+
+const std::vector<CliModel>& models();
+const CliModel* findModel(const std::string& idOrScreen);
+
+}  // namespace vorel::cli

@@ -1,0 +1,63 @@
+// What every model offers the frame: its check messages and a way to run it
+// from a problem file without any window (the command-line program).
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frame/problem_file.h"
+#include "frame/report.h"
+
+namespace vorel {
+
+// A validation message. `focus` names the control that takes focus ("X1(0)"
+// for an element of a control array), or is empty where no focus is set.
+struct Message {
+  std::string text;
+  std::string focus;
+  bool operator==(const Message&) const = default;
+};
+// Every check returns its messages in order: none when all is valid; at most
+// one in the first-failure family; one per bad cell in the table family.
+using Messages = std::vector<Message>;
+
+// What a solution screen paints when it activates, and what Imprimir prints.
+struct Pages {
+  Report screen;
+  Report page;
+};
+
+enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError = 3 };
+
+struct RunOutcome {
+  RunStatus status = RunStatus::Solved;
+  Messages messages;
+  Pages pages;
+};
+
+// Opens `path` into freshly loaded fields as abrir does, runs Resolver's
+// checks and, when they pass, the solution screen's activation. Run-time
+// errors propagate (the caller reports them).
+template <class Fields>
+RunOutcome runFromFile(const std::string& path, void (*exchange)(ProblemFile&, Fields&),
+                       Messages (*check)(const Fields&), Pages (*solveAndReport)(Fields&)) {
+  Fields fields;
+  if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))
+    return {RunStatus::Unreadable, {}, {}};
+  Messages messages = check(fields);
+  if (!messages.empty()) return {RunStatus::CheckFailed, messages, {}};
+  return {RunStatus::Solved, {}, solveAndReport(fields)};
+}
+
+// Opens `path` into fresh fields and writes them back as guardar would: the
+// bytes of the file that the program itself writes for the same problem.
+template <class Fields>
+std::string resave(const std::string& path, void (*exchange)(ProblemFile&, Fields&)) {
+  Fields fields;
+  openProblem(path, [&](ProblemFile& f) { exchange(f, fields); });
+  ProblemFile out = ProblemFile::forWriting();
+  exchange(out, fields);
+  return out.bytes();
+}
+
+}  // namespace vorel

@@ -1,0 +1,87 @@
+// Every example problem solves through vorel-report to its golden text, and
+// every example is exactly the file the program writes for that problem.
+//
+// Examples live in examples/<model id>/<name>.txt; their golden texts in
+// tests/golden/<model id>/<name>.report (the screen) and .page (--print).
+// A run that does not print a report keeps its exit status and stderr in the
+// golden text. VOREL_UPDATE_GOLDEN=1 writes the golden files anew.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <sys/wait.h>
+
+#include "cli/models.h"
+#include "tests/test_support.h"
+
+namespace vorel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string transcript(const std::string& arguments) {
+  std::string err = testing::tempPath("stderr.txt");
+  std::string command = std::string(VOREL_REPORT_EXE) + " " + arguments + " 2>" + err;
+  FILE* pipe = popen(command.c_str(), "r");
+  std::string out;
+  std::array<char, 4096> buffer;
+  std::size_t n;
+  while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0) out.append(buffer.data(), n);
+  int status = WEXITSTATUS(pclose(pipe));
+  if (status != 0) out += "[salida " + std::to_string(status) + "]\n" + testing::readBytes(err);
+  return out;
+}
+
+void compareWithGolden(const std::string& actual, const fs::path& golden) {
+  if (std::getenv("VOREL_UPDATE_GOLDEN")) {
+    fs::create_directories(golden.parent_path());
+    testing::writeBytes(golden.string(), actual);
+  }
+  ASSERT_TRUE(fs::exists(golden)) << "no golden text " << golden;
+  EXPECT_EQ(actual, testing::readBytes(golden.string())) << golden;
+}
+
+TEST(Examples, SolveToTheirGoldenText) {
+  const fs::path source(VOREL_SOURCE_DIR);
+  int count = 0;
+  for (const auto& model : fs::directory_iterator(source / "examples")) {
+    const std::string id = model.path().filename().string();
+    ASSERT_NE(cli::findModel(id), nullptr) << "examples for an unknown model: " << id;
+    for (const auto& example : fs::directory_iterator(model.path())) {
+      const fs::path golden = source / "tests" / "golden" / id / example.path().stem();
+      const std::string file = example.path().string();
+      SCOPED_TRACE(file);
+      compareWithGolden(transcript(id + " '" + file + "'"), golden.string() + ".report");
+      compareWithGolden(transcript(id + " '" + file + "' --print"), golden.string() + ".page");
+      ++count;
+    }
+  }
+  EXPECT_GT(count, 0);
+}
+
+TEST(Examples, AreWrittenAsTheProgramWritesThem) {
+  for (const auto& model : fs::directory_iterator(fs::path(VOREL_SOURCE_DIR) / "examples")) {
+    const cli::CliModel* m = cli::findModel(model.path().filename().string());
+    ASSERT_NE(m, nullptr);
+    for (const auto& example : fs::directory_iterator(model.path())) {
+      const std::string file = example.path().string();
+      EXPECT_EQ(m->resave(file), testing::readBytes(file)) << file;
+    }
+  }
+}
+
+TEST(CommandLine, ListsModelsAndRejectsUnknownOnes) {
+  const std::string list = transcript("--list");
+  for (const cli::CliModel& m : cli::models())
+    EXPECT_NE(list.find(m.id + "\t" + m.screen + "\n"), std::string::npos) << m.id;
+  EXPECT_EQ(transcript("nada x.txt"),
+            "[salida 2]\nModelo desconocido: nada (vorel-report --list los enumera)\n");
+  EXPECT_EQ(transcript("cep /no/such/file.txt"),
+            "[salida 2]\nNo se pudo leer el fichero: /no/such/file.txt\n");
+  EXPECT_NE(cli::findModel("GI_CantidadEconómicaPedido"), nullptr);
+}
+
+}  // namespace
+}  // namespace vorel
