@@ -1,14 +1,14 @@
 #include "cli/models.h"
 
-#include "inventory/eoq.h"
-
 namespace vorel::cli {
 
 const std::vector<CliModel>& models() {
-  static const std::vector<CliModel> all = {
-      entry<inventory::EoqFields>("cep", "GI_CantidadEconómicaPedido", "", inventory::exchange,
-                                  inventory::check, inventory::solveAndReport),
-  };
+  static const std::vector<CliModel> all = [] {
+    std::vector<CliModel> list;
+    for (auto part : {linearProgrammingModels, decisionModels, gamesModels, queueingModels, inventoryModels, locationEquipmentModels, qualityModels, productivityModels, layoutModels})
+      for (CliModel& m : part()) list.push_back(std::move(m));
+    return list;
+  }();
   return all;
 }
 

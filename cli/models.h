@@ -29,6 +29,17 @@ CliModel entry(std::string id, std::string screen, std::string presses,
 }
 
 const std::vector<CliModel>& models();
+// Each subsystem's models, in cli/models_<subsystem>.cpp.
+std::vector<CliModel> linearProgrammingModels();
+std::vector<CliModel> decisionModels();
+std::vector<CliModel> gamesModels();
+std::vector<CliModel> queueingModels();
+std::vector<CliModel> inventoryModels();
+std::vector<CliModel> locationEquipmentModels();
+std::vector<CliModel> qualityModels();
+std::vector<CliModel> productivityModels();
+std::vector<CliModel> layoutModels();
+
 const CliModel* findModel(const std::string& idOrScreen);
 
 }  // namespace vorel::cli

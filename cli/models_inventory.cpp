@@ -1,0 +1,14 @@
+#include "cli/models.h"
+
+#include "inventory/eoq.h"
+
+namespace vorel::cli {
+
+std::vector<CliModel> inventoryModels() {
+  using namespace inventory;
+  return {
+      entry<EoqFields>("cep", "GI_CantidadEconómicaPedido", "", exchange, check, solveAndReport),
+  };
+}
+
+}  // namespace vorel::cli

@@ -1,0 +1,9 @@
+#include "cli/models.h"
+
+namespace vorel::cli {
+
+std::vector<CliModel> linearProgrammingModels() {
+  return {};
+}
+
+}  // namespace vorel::cli
