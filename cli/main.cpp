@@ -18,7 +18,8 @@ void usage(std::ostream& out) {
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
          "  --pdf F     escribe la página impresa como PDF en F\n\n"
          "Estado de salida: 0 informe impreso; 1 comprobaciones no superadas (cada mensaje en\n"
-         "una línea de stderr); 2 fichero ilegible; 3 error en tiempo de ejecución.\n";
+         "una línea de stderr); 2 fichero ilegible; 3 error en tiempo de ejecución;\n"
+         "4 el método no termina (la pantalla seguiría calculando sin fin).\n";
   bool any = false;
   for (const auto& m : vorel::cli::models()) {
     if (m.presses.empty()) continue;
@@ -80,5 +81,9 @@ int main(int argc, char** argv) {
   } catch (const RuntimeError& e) {
     std::cerr << "Error " << e.number() << ": " << e.what() << "\n";
     return 3;
+  } catch (const DoesNotEnd&) {
+    std::cerr << "El método no termina: se detuvo tras " << kCommandLineStepBudget
+              << " pasos.\n";
+    return 4;
   }
 }

@@ -29,6 +29,12 @@ struct Pages {
 
 enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError = 3 };
 
+// Thrown by a method that would run for ever (a cycling simplex) once the step
+// budget its caller gave it is spent. The desktop program gives no budget; the
+// command-line program does, and exits with status 4.
+struct DoesNotEnd {};
+inline constexpr long kCommandLineStepBudget = 1'000'000;
+
 struct RunOutcome {
   RunStatus status = RunStatus::Solved;
   Messages messages;
