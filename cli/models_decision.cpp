@@ -1,9 +1,19 @@
 #include "cli/models.h"
 
+#include "decision/electra1.h"
+#include "decision/incertidumbre.h"
+
 namespace vorel::cli {
 
 std::vector<CliModel> decisionModels() {
-  return {};
+  using namespace decision;
+  return {
+      // The screen report of incertidumbre is the Wald page, the one painted at
+      // activation; --print gives the printed page with every criterion.
+      entry<IncertidumbreFields>("incertidumbre", "DecisionIncertidumbre", "", exchange, check,
+                                 solveAndReport),
+      entry<Electra1Fields>("electra1", "DecisionElectra1", "", exchange, check, solveAndReport),
+  };
 }
 
 }  // namespace vorel::cli

@@ -1,0 +1,284 @@
+#include "decision/electra1.h"
+
+#include <cmath>
+
+#include "frame/checks.h"
+
+namespace vorel::decision {
+
+namespace {
+
+const std::string kPonderación = "Ponderación";
+
+// Shows columns 1 to na+1 and rows 0 to nc-1 of the table and hides the rest;
+// the head over column na+1 becomes the weights' head. Cell texts stay.
+void aplicarForma(Electra1Fields& f, int na, int nc) {
+  for (int k = 0; k < 7; ++k) {
+    auto& head = f.LblAlternativas[static_cast<std::size_t>(k)];
+    head.visible = k <= na;
+    head.BackColor = kColorAlternativa;
+    head.caption = "Alternativa " + std::to_string(k + 1);
+  }
+  auto& weights = item(f.LblAlternativas, na);
+  weights.caption = kPonderación;
+  weights.BackColor = kColorPonderacion;
+  weights.visible = true;
+  for (int i = 0; i < 7; ++i) {
+    f.LblCriterios[static_cast<std::size_t>(i)] = i < nc;
+    for (int j = 0; j < 7; ++j)
+      f.C[static_cast<std::size_t>(j)][static_cast<std::size_t>(i)].visible = j <= na && i < nc;
+  }
+}
+
+// The comparisons of the method look at each valuation as it reads back from
+// its text, so values that differ only beyond the fifteenth digit are equal.
+double comoTexto(double x) { return Val(Str(x)); }
+
+// Lines 2 to 17 of the report, with the rule of the screen or of the page.
+void cuerpo(Report& out, const Electra1Fields& f, const Electra1Results& r,
+            const std::string& regla) {
+  out.line(Z, "Solución al problema: " + f.Título);
+  out.line(Z, regla);
+  out.line(Z, " ");
+  out.line(Z, "Numero de alternativas:", Z, Z, r.NumAlt);
+  out.line(Z, "Numero de criterios:", Z, Z, r.NumCrit);
+  out.line(Z, " ");
+  out.line(Z, "Escala de Valoración", Z, Z, f.escalaValoracion);
+  out.line(Z, "Límite de concordancia", Z, Z, f.IndiceConcordancia);
+  out.line(Z, "Límite de discordancia", Z, Z, f.IndiceDiscordancia);
+  out.line(Z, regla);
+  out.line(Z, " ");
+  out.line(Z, "SOBRECLASIFICACIÓN");
+  out.line(Z, "");
+  if (r.NumSobreclasificadas == 0) out.line(Z, "No existen alternativas sobreclasificadas");
+  for (int a = 0; a < r.na; ++a)
+    for (int b = 0; b < r.na; ++b) {
+      if (a == b || item(item(r.Sobreclasificacion, a), b) != 1) continue;
+      out.line(Z, "La alternativa", printed(double(a + 1)), "domina a la alternativa",
+               printed(double(b + 1)));
+    }
+  out.line(Z, "");
+  out.line(Z, " NÚCLEO");
+  out.line(Z, "");
+  if (r.NumNucleo == 0) out.line(Z, "No existen alternativas no dominadas");
+  for (int a = 0; a < r.na; ++a)
+    if (item(r.Nucleo, a) == 1) out.line(Z, "Alternativa", printed(double(a + 1)));
+}
+
+}  // namespace
+
+Electra1Fields::Electra1Fields() { aplicarForma(*this, 4, 4); }
+
+std::string comboText(int listIndex) {
+  return listIndex < 0 ? std::string() : std::to_string(listIndex + 1);
+}
+
+double comboNumber(const std::string& text) {
+  if (!IsNumeric(text)) raise(err::TypeMismatch);
+  return Val(text);
+}
+
+Messages rediseñar(Electra1Fields& f) {
+  const std::string alternativas = comboText(f.NumAlternativas);
+  const std::string criterios = comboText(f.NumCriterios);
+  if (alternativas.empty()) return {{"Seleccione el número de Alternativas", ""}};
+  if (criterios.empty()) return {{"Seleccione el número de Criterios", ""}};
+  aplicarForma(f, static_cast<int>(comboNumber(alternativas)),
+               static_cast<int>(comboNumber(criterios)));
+  return {};
+}
+
+void nuevo(Electra1Fields& f) {
+  f.escalaValoracion.clear();
+  f.IndiceConcordancia.clear();
+  f.IndiceDiscordancia.clear();
+  for (auto& column : f.C)
+    for (auto& cell : column) cell.text.clear();
+  f.NumAlternativas = 3;
+  f.NumCriterios = 3;
+  aplicarForma(f, 4, 4);
+}
+
+Messages check(const Electra1Fields& f) {
+  if (!IsNumeric(f.escalaValoracion))
+    return {{"Debe introducir el valor de la escala de valoración", "escalaValoracion"}};
+  const double escala = Val(f.escalaValoracion);
+  if (escala < 0 || escala > 999999999)
+    return {{"El valor de la escala de valoración no es correcto, debe introducir un valor "
+             "comprendico entre 0 y 999999999",
+             ""}};
+  if (!IsNumeric(f.IndiceConcordancia))
+    return {{"Debe introducir el valor del índice de concordancia", "IndiceConcordancia"}};
+  const double concordancia = Val(f.IndiceConcordancia);
+  if (concordancia < 0 || concordancia > 1)
+    return {{"el valor del índice de concordancia no es correcto, debe introducir un valor "
+             "comprendido entre 0 y 1",
+             ""}};
+  if (!IsNumeric(f.IndiceDiscordancia))
+    return {{"Debe introducir el valor del índice de discordancia", "IndiceDiscordancia"}};
+  const double discordancia = Val(f.IndiceDiscordancia);
+  if (discordancia < 0 || discordancia > 1)
+    return {{"el valor del índice dediscordancia no es correcto, debe introducir un valor "
+             "comprendido entre 0 y 1",
+             "IndiceDiscordancia"}};
+
+  // Row by row, each cell first for being a number and then for its range.
+  // The messages follow the column: C1 to C6 speak of the valuations and C7
+  // of the weights, wherever the weights stand.
+  for (int i = 0; i < 7; ++i)
+    for (int j = 1; j <= 7; ++j) {
+      const auto& cell = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
+      if (!cell.visible) continue;
+      const std::string focus = element("C" + std::to_string(j), i);
+      if (!IsNumeric(cell.text)) {
+        if (j == 1) return {{"Debe completar la tabla de escalas de valoración ", focus}};
+        if (j < 7) return {{"Debe completar la tabla de escalas de valoración", focus}};
+        return {{"Debe completar la fila de ponderaciones", focus}};
+      }
+      const double value = Val(cell.text);
+      if (value < -999999999 || value > 999999999) {
+        if (j < 7)
+          return {{"El valor de la escala de valoración no es correcto, debe introducir un "
+                   "valor comprendido entre -999999999 y 999999999",
+                   focus}};
+        return {{"El valor de la ponderación no es correcto, debe introducir un valor "
+                 "comprendido entre -999999999 y 999999999",
+                 focus}};
+      }
+    }
+  return {};
+}
+
+Electra1Results solve(const Electra1Fields& f) {
+  Electra1Results r;
+  r.NumAlt = comboText(f.NumAlternativas);
+  r.NumCrit = comboText(f.NumCriterios);
+  r.na = static_cast<int>(comboNumber(r.NumAlt));
+  r.nc = static_cast<int>(comboNumber(r.NumCrit));
+  r.LimiteConcordancia = Val(f.IndiceConcordancia);
+  r.LimiteDiscordancia = Val(f.IndiceDiscordancia);
+  const double E = Val(f.escalaValoracion);
+
+  // Alternative a stands in column C(a+1); the weights in the column after the last.
+  for (int c = 0; c < r.nc; ++c) {
+    for (int a = 0; a < r.na; ++a)
+      item(item(r.Valoracion, a), c) = Val(item(item(f.C, a), c).text);
+    item(r.Ponderacion, c) = Val(item(item(f.C, r.na), c).text);
+  }
+  double W = 0;
+  for (int c = 0; c < r.nc; ++c) W = checked(W + item(r.Ponderacion, c));
+
+  for (int a = 0; a < r.na; ++a)
+    for (int b = 0; b < r.na; ++b) {
+      const auto& va = item(r.Valoracion, a);
+      const auto& vb = item(r.Valoracion, b);
+      double suma = 0;
+      for (int c = 0; c < r.nc; ++c)
+        if (comoTexto(item(va, c)) >= comoTexto(item(vb, c)))
+          suma = checked(suma + item(r.Ponderacion, c));
+      double& concordancia = item(item(r.Concordancia, a), b);
+      concordancia = divide(suma, W);
+
+      double& discordancia = item(item(r.Discordancia, a), b);
+      discordancia = 0;
+      for (int c = 0; c < r.nc; ++c)
+        if (comoTexto(item(vb, c)) > comoTexto(item(va, c))) {
+          const double candidata = divide(checked(item(vb, c) - item(va, c)), E);
+          if (candidata > discordancia) discordancia = candidata;
+        }
+
+      item(item(r.Sobreclasificacion, a), b) =
+          concordancia >= r.LimiteConcordancia && discordancia <= r.LimiteDiscordancia ? 1 : 0;
+    }
+
+  for (int a = 0; a < r.na; ++a) {
+    int& nucleo = item(r.Nucleo, a);
+    nucleo = 1;
+    for (int b = 0; b < r.na; ++b)
+      if (b != a && item(item(r.Sobreclasificacion, b), a) == 1) nucleo = 0;
+  }
+  for (int a = 0; a < r.na; ++a) {
+    for (int b = 0; b < r.na; ++b)
+      if (a != b && item(item(r.Sobreclasificacion, a), b) == 1) ++r.NumSobreclasificadas;
+    if (item(r.Nucleo, a) == 1) ++r.NumNucleo;
+  }
+  return r;
+}
+
+Report report(const Electra1Fields& f, const Electra1Results& r) {
+  Report out;
+  out.blankLines(3);
+  cuerpo(out, f, r, std::string(74, '_') + " ");
+  return out;
+}
+
+Report printout(const Electra1Fields& f, const Electra1Results& r) {
+  Report out;
+  for (int k = 0; k < 5; ++k) out.line(Z, "");
+  out.line(Z, Z, "ELECTRA 1");
+  out.blankLines(3);
+  cuerpo(out, f, r, std::string(66, '_') + " ");
+  return out;
+}
+
+Pages solveAndReport(Electra1Fields& f) {
+  const Electra1Results r = solve(f);
+  return {report(f, r), printout(f, r)};
+}
+
+void longItem(ProblemFile& file, long& value) {
+  if (!file.reading()) {
+    int whole = static_cast<int>(value);
+    file.number(whole);
+    return;
+  }
+  std::string text;
+  file.text(text);
+  double number = 0;
+  if (text == "#TRUE#" || text == "#true#") {
+    number = -1;
+  } else if (text == "#FALSE#" || text == "#false#" || text.empty()) {
+    number = 0;
+  } else if (IsNumeric(text, '.')) {
+    try {
+      number = std::nearbyint(Val(text));  // half to even, as the platform rounds
+    } catch (const RuntimeError&) {
+      throw ReadFailed{};
+    }
+  } else {
+    throw ReadFailed{};
+  }
+  if (number < -2147483648.0 || number > 2147483647.0) throw ReadFailed{};
+  value = static_cast<long>(number);
+}
+
+void listIndexItem(ProblemFile& file, int& listIndex, int count) {
+  int read = listIndex;
+  file.number(read);
+  if (file.reading()) {
+    if (read < -1 || read >= count) throw ReadFailed{};
+    listIndex = read;
+  }
+}
+
+void exchange(ProblemFile& file, Electra1Fields& f) {
+  file.text(f.Título);
+  listIndexItem(file, f.NumCriterios, kMaxCriterios);
+  listIndexItem(file, f.NumAlternativas, kMaxAlternativasElectra);
+  file.text(f.escalaValoracion);
+  file.text(f.IndiceConcordancia);
+  file.text(f.IndiceDiscordancia);
+  for (std::size_t i = 0; i < 7; ++i) {
+    file.flag(f.LblCriterios[i]);
+    for (auto& column : f.C) {
+      file.text(column[i].text);
+      file.flag(column[i].visible);
+    }
+    auto& head = f.LblAlternativas[i];
+    file.flag(head.visible);
+    file.text(head.caption);
+    longItem(file, head.BackColor);
+  }
+}
+
+}  // namespace vorel::decision
