@@ -1,6 +1,7 @@
 #include "cli/models.h"
 
 #include "linear_programming/asignacion.h"
+#include "linear_programming/simplex.h"
 #include "linear_programming/transportes.h"
 
 namespace vorel::cli {
@@ -26,6 +27,8 @@ CliModel transporte() {
 std::vector<CliModel> linearProgrammingModels() {
   using namespace linear_programming;
   return {
+      entry<SimplexFields>("simplex", "PL_Simplex", "", exchange, check,
+                           [](SimplexFields& f) { return solveAndReport(f, kCommandLineStepBudget); }),
       transporte(),
       entry<AsignacionFields>("asignacion", "PL_Asignación", "", exchange, check, solveAndReport),
   };
