@@ -240,64 +240,6 @@ TEST(Electra1, AnEmptyComboIsATypeMismatchWhenSolving) {
   }
 }
 
-TEST(Electra1, ReportOfTheTextbookProblem) {
-  Electra1Fields f = libro();
-  f.Título = "Elección de proveedor";
-  const std::string rule = "              " + std::string(74, '_') + " \n";
-  EXPECT_EQ(renderText(report(f, solve(f))),
-            "               \n"
-            "               \n"
-            "               \n"
-            "              Solución al problema: Elección de proveedor\n" +
-                rule +
-                "               \n"
-                "              Numero de alternativas:                   4\n"
-                "              Numero de criterios:                      4\n"
-                "               \n"
-                "              Escala de Valoración                      10\n"
-                "              Límite de concordancia                    0.6\n"
-                "              Límite de discordancia                    0.3\n" +
-                rule +
-                "               \n"
-                "              SOBRECLASIFICACIÓN\n"
-                "\n"
-                "              La alternativa 1 domina a la alternativa 3 \n"
-                "              La alternativa 1 domina a la alternativa 4 \n"
-                "              La alternativa 2 domina a la alternativa 4 \n"
-                "              La alternativa 3 domina a la alternativa 2 \n"
-                "              La alternativa 3 domina a la alternativa 4 \n"
-                "\n"
-                "               NÚCLEO\n"
-                "\n"
-                "              Alternativa 1 \n");
-}
-
-TEST(Electra1, ReportStatesEmptySetsAndThePageHasItsOwnHeadAndRule) {
-  Electra1Fields f = problema({{"4", "4"}}, {"1"}, "10", "1", "0");
-  f.Título = "Iguales";
-  const Electra1Results r = solve(f);
-  const std::string screen = renderText(report(f, r));
-  EXPECT_NE(screen.find("SOBRECLASIFICACIÓN\n\n              La alternativa 1 domina a la "
-                        "alternativa 2 \n              La alternativa 2 domina a la alternativa 1 "
-                        "\n\n               NÚCLEO\n\n              No existen alternativas no "
-                        "dominadas\n"),
-            std::string::npos)
-      << screen;
-
-  const Electra1Fields sola = problema({{"4"}}, {"1"});
-  const std::string page = renderText(printout(sola, solve(sola)));
-  const std::string rule = "              " + std::string(66, '_') + " \n";
-  EXPECT_EQ(page.substr(0, page.find("Numero")),
-            "\n\n\n\n\n                            ELECTRA 1\n               \n               \n"
-            "               \n              Solución al problema: Problema 1\n" +
-                rule + "               \n              ");
-  EXPECT_NE(page.find("SOBRECLASIFICACIÓN\n\n              No existen alternativas "
-                      "sobreclasificadas\n\n               NÚCLEO\n\n              Alternativa 1 \n"),
-            std::string::npos)
-      << page;
-  EXPECT_EQ(page.find(std::string(67, '_')), std::string::npos);
-}
-
 TEST(Electra1, PagePrintsTheKeptResultsWithoutRecomputing) {
   Electra1Fields f = libro();
   const Electra1Results r = solve(f);
