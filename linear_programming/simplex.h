@@ -46,6 +46,13 @@ inline constexpr const char* kSimplexCaption = "Simplex";
 inline constexpr const char* kSimplexIntro =
     "Es un algoritmo matemático para la resolución de problemas de programación lineal "
     "desarrollado por George Dantzig en 1947";
+// The selectors keep the tool-tips of the transport screen.
+inline constexpr const char* kNumFactoresToolTip = "Número de Destinos";
+inline constexpr const char* kNumrestriccionesToolTip = "Número de Orígenes";
+inline constexpr std::array<const char*, 6> kSimplexLabels = {
+    "Variables", "Restricciones", "Objetivo", "Tipo", "Existencias", "TÍTULO DEL PROBLEMA"};
+// The caption of Lblrestriccion(i) is "Restricción " followed by i + 1.
+inline constexpr const char* kSimplexSolucionCaption = "Form1";  // label "Simplex"
 inline constexpr std::array<const char*, 2> kFuncionObjetivoItems = {"Maximización",
                                                                      "Minimización"};
 inline constexpr std::array<const char*, 3> kRestriccionItems = {"<=", ">=", "="};
