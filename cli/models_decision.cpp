@@ -1,5 +1,4 @@
 #include "cli/models.h"
-
 #include "decision/electra1.h"
 #include "decision/incertidumbre.h"
 

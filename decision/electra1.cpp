@@ -104,23 +104,26 @@ Messages check(const Electra1Fields& f) {
     return {{"Debe introducir el valor de la escala de valoración", "escalaValoracion"}};
   const double escala = Val(f.escalaValoracion);
   if (escala < 0 || escala > 999999999)
-    return {{"El valor de la escala de valoración no es correcto, debe introducir un valor "
-             "comprendico entre 0 y 999999999",
-             ""}};
+    return {
+        {"El valor de la escala de valoración no es correcto, debe introducir un valor "
+         "comprendico entre 0 y 999999999",
+         ""}};
   if (!IsNumeric(f.IndiceConcordancia))
     return {{"Debe introducir el valor del índice de concordancia", "IndiceConcordancia"}};
   const double concordancia = Val(f.IndiceConcordancia);
   if (concordancia < 0 || concordancia > 1)
-    return {{"el valor del índice de concordancia no es correcto, debe introducir un valor "
-             "comprendido entre 0 y 1",
-             ""}};
+    return {
+        {"el valor del índice de concordancia no es correcto, debe introducir un valor "
+         "comprendido entre 0 y 1",
+         ""}};
   if (!IsNumeric(f.IndiceDiscordancia))
     return {{"Debe introducir el valor del índice de discordancia", "IndiceDiscordancia"}};
   const double discordancia = Val(f.IndiceDiscordancia);
   if (discordancia < 0 || discordancia > 1)
-    return {{"el valor del índice dediscordancia no es correcto, debe introducir un valor "
-             "comprendido entre 0 y 1",
-             "IndiceDiscordancia"}};
+    return {
+        {"el valor del índice dediscordancia no es correcto, debe introducir un valor "
+         "comprendido entre 0 y 1",
+         "IndiceDiscordancia"}};
 
   // Row by row, each cell first for being a number and then for its range.
   // The messages follow the column: C1 to C6 speak of the valuations and C7
@@ -138,12 +141,14 @@ Messages check(const Electra1Fields& f) {
       const double value = Val(cell.text);
       if (value < -999999999 || value > 999999999) {
         if (j < 7)
-          return {{"El valor de la escala de valoración no es correcto, debe introducir un "
-                   "valor comprendido entre -999999999 y 999999999",
-                   focus}};
-        return {{"El valor de la ponderación no es correcto, debe introducir un valor "
-                 "comprendido entre -999999999 y 999999999",
-                 focus}};
+          return {
+              {"El valor de la escala de valoración no es correcto, debe introducir un "
+               "valor comprendido entre -999999999 y 999999999",
+               focus}};
+        return {
+            {"El valor de la ponderación no es correcto, debe introducir un valor "
+             "comprendido entre -999999999 y 999999999",
+             focus}};
       }
     }
   return {};
@@ -161,8 +166,7 @@ Electra1Results solve(const Electra1Fields& f) {
 
   // Alternative a stands in column C(a+1); the weights in the column after the last.
   for (int c = 0; c < r.nc; ++c) {
-    for (int a = 0; a < r.na; ++a)
-      item(item(r.Valoracion, a), c) = Val(item(item(f.C, a), c).text);
+    for (int a = 0; a < r.na; ++a) item(item(r.Valoracion, a), c) = Val(item(item(f.C, a), c).text);
     item(r.Ponderacion, c) = Val(item(item(f.C, r.na), c).text);
   }
   double W = 0;

@@ -49,8 +49,8 @@ struct Electra1Results {
   std::array<std::array<double, kMaxCriterios>, kMaxAlternativasElectra> Valoracion{};
   std::array<double, kMaxCriterios> Ponderacion{};
   double LimiteConcordancia = 0, LimiteDiscordancia = 0;
-  std::array<std::array<double, kMaxAlternativasElectra>, kMaxAlternativasElectra>
-      Concordancia{}, Discordancia{};
+  std::array<std::array<double, kMaxAlternativasElectra>, kMaxAlternativasElectra> Concordancia{},
+      Discordancia{};
   std::array<std::array<int, kMaxAlternativasElectra>, kMaxAlternativasElectra>
       Sobreclasificacion{};
   std::array<int, kMaxAlternativasElectra> Nucleo{};

@@ -47,7 +47,9 @@ void iguales(const PorAlternativa& valor, int na, Marcas& sel) {
   for (int a = 0; a < na; ++a) item(sel, a) = item(valor, a) == maximo ? 1 : 0;
 }
 
-std::string regla(int subrayados) { return std::string(static_cast<std::size_t>(subrayados), '_') + " "; }
+std::string regla(int subrayados) {
+  return std::string(static_cast<std::size_t>(subrayados), '_') + " ";
+}
 
 void titulo(Report& out, const IncertidumbreFields& f, const std::string& linea) {
   out.line(Z, "Solución al problema: " + f.Título);
@@ -65,7 +67,8 @@ void cuentas(Report& out, const IncertidumbreResults& r, const std::string& line
 std::string numero(int a) { return printed(double(a + 1)); }
 
 void valores(Report& out, const IncertidumbreResults& r, const PorAlternativa& valor) {
-  for (int a = 0; a < r.na; ++a) out.line(Z, "Alternativa", numero(a), ":", Z, Z, Str(item(valor, a)));
+  for (int a = 0; a < r.na; ++a)
+    out.line(Z, "Alternativa", numero(a), ":", Z, Z, Str(item(valor, a)));
 }
 
 void seleccionadas(Report& out, const IncertidumbreResults& r, const Marcas& sel) {
@@ -169,20 +172,23 @@ Messages check(const IncertidumbreFields& f) {
       const double value = Val(cell.text);
       if (value < -999999999 || value > 999999999) {
         if (j == 0)
-          return {{"El valor de los resulatdos no es correcto, debe introducir un valor "
-                   "comprendido entre -999999999 y 999999999",
-                   ""}};
-        return {{"El valor de los resultados no es correcto, debe introducir un valor "
-                 "comprendido entre -999999999 y 999999999",
-                 ""}};
+          return {
+              {"El valor de los resulatdos no es correcto, debe introducir un valor "
+               "comprendido entre -999999999 y 999999999",
+               ""}};
+        return {
+            {"El valor de los resultados no es correcto, debe introducir un valor "
+             "comprendido entre -999999999 y 999999999",
+             ""}};
       }
     }
   if (IsNumeric(f.Alfa)) {
     const double alfa = Val(f.Alfa);
     if (alfa < 0 || alfa > 1)
-      return {{"El valor del coeficiente de optimismo no es correcto, debe introducir un valor "
-               "comprendido entre 0 y 1",
-               ""}};
+      return {
+          {"El valor del coeficiente de optimismo no es correcto, debe introducir un valor "
+           "comprendido entre 0 y 1",
+           ""}};
   }
   return {};
 }
@@ -222,7 +228,8 @@ IncertidumbreResults solve(const IncertidumbreFields& f) {
     double& maximo = item(r.MaxArrepentimiento, a);
     maximo = item(item(r.Arrepentimiento, 0), a);
     for (int s = 1; s < ne; ++s)
-      if (item(item(r.Arrepentimiento, s), a) > maximo) maximo = item(item(r.Arrepentimiento, s), a);
+      if (item(item(r.Arrepentimiento, s), a) > maximo)
+        maximo = item(item(r.Arrepentimiento, s), a);
   }
   explorar(r.MaxArrepentimiento, na, true, r.SelSavage);
 
@@ -271,13 +278,20 @@ Botones botonesVisibles(const Navegacion& estado) {
 
 bool visible(const Botones& b, Boton boton) {
   switch (boton) {
-    case Boton::forward1: return b.forward1;
-    case Boton::Back1: return b.Back1;
-    case Boton::forward2: return b.forward2;
-    case Boton::Continuar1: return b.Continuar1;
-    case Boton::Continuar2: return b.Continuar2;
-    case Boton::NoContinuar: return b.NoContinuar;
-    case Boton::NoContinuar2: return b.NoContinuar2;
+    case Boton::forward1:
+      return b.forward1;
+    case Boton::Back1:
+      return b.Back1;
+    case Boton::forward2:
+      return b.forward2;
+    case Boton::Continuar1:
+      return b.Continuar1;
+    case Boton::Continuar2:
+      return b.Continuar2;
+    case Boton::NoContinuar:
+      return b.NoContinuar;
+    case Boton::NoContinuar2:
+      return b.NoContinuar2;
   }
   return false;
 }

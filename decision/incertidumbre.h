@@ -66,8 +66,8 @@ struct Navegacion {
 
 // The buttons visible in a state: the seven browsing buttons and volver.
 struct Botones {
-  bool forward1 = false, Back1 = false, forward2 = false, Continuar1 = false,
-       Continuar2 = false, NoContinuar = false, NoContinuar2 = false, volver = false;
+  bool forward1 = false, Back1 = false, forward2 = false, Continuar1 = false, Continuar2 = false,
+       NoContinuar = false, NoContinuar2 = false, volver = false;
   bool operator==(const Botones&) const = default;
 };
 Botones botonesVisibles(const Navegacion& estado);
@@ -79,7 +79,7 @@ Navegacion pulsar(const Navegacion& estado, Boton boton, const IncertidumbreFiel
 
 // One page as painted on Solucion1 (each click rewrites it whole).
 Report pagina(const IncertidumbreFields& f, const IncertidumbreResults& r, Pagina p);
-Report report(const IncertidumbreFields& f, const IncertidumbreResults& r);  // the Wald page
+Report report(const IncertidumbreFields& f, const IncertidumbreResults& r);    // the Wald page
 Report printout(const IncertidumbreFields& f, const IncertidumbreResults& r);  // Imprimir
 Pages solveAndReport(IncertidumbreFields& f);
 void exchange(ProblemFile& file, IncertidumbreFields& f);  // guardar and abrir

@@ -1,8 +1,9 @@
+#include "decision/electra1.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "decision/electra1.h"
 #include "frame/arith.h"
 #include "tests/test_support.h"
 
@@ -33,9 +34,9 @@ Electra1Fields problema(const Tabla& valores, const std::vector<std::string>& pe
 
 // The textbook problem of the examples: four suppliers under four criteria.
 Electra1Fields libro() {
-  return problema({{"8", "6", "7", "5"}, {"7", "8", "5", "6"}, {"6", "7", "8", "7"},
-                   {"9", "5", "6", "8"}},
-                  {"4", "3", "2", "1"});
+  return problema(
+      {{"8", "6", "7", "5"}, {"7", "8", "5", "6"}, {"6", "7", "8", "7"}, {"9", "5", "6", "8"}},
+      {"4", "3", "2", "1"});
 }
 
 // Outranking pairs (a+1, b+1) and kernel members (a+1) of a solution.
@@ -61,35 +62,50 @@ TEST(Electra1, ChecksRunInTheirOrderWithTheirFocus) {
     const char* focus;
   } cases[] = {
       {"1 escala no numérica, antes que todo lo demás",
-       [](Electra1Fields& f) { f.escalaValoracion = "x"; f.IndiceConcordancia = ""; f.C[0][0].text = ""; },
+       [](Electra1Fields& f) {
+         f.escalaValoracion = "x";
+         f.IndiceConcordancia = "";
+         f.C[0][0].text = "";
+       },
        "Debe introducir el valor de la escala de valoración", "escalaValoracion"},
       {"2 escala negativa", [](Electra1Fields& f) { f.escalaValoracion = "-1"; },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendico "
-       "entre 0 y 999999999", ""},
+       "entre 0 y 999999999",
+       ""},
       {"2 escala sobre el límite", [](Electra1Fields& f) { f.escalaValoracion = "1000000000"; },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendico "
-       "entre 0 y 999999999", ""},
-      {"3 concordancia vacía", [](Electra1Fields& f) { f.IndiceConcordancia = ""; f.IndiceDiscordancia = "y"; },
+       "entre 0 y 999999999",
+       ""},
+      {"3 concordancia vacía",
+       [](Electra1Fields& f) {
+         f.IndiceConcordancia = "";
+         f.IndiceDiscordancia = "y";
+       },
        "Debe introducir el valor del índice de concordancia", "IndiceConcordancia"},
       {"4 concordancia sobre 1", [](Electra1Fields& f) { f.IndiceConcordancia = "1.01"; },
        "el valor del índice de concordancia no es correcto, debe introducir un valor comprendido "
-       "entre 0 y 1", ""},
+       "entre 0 y 1",
+       ""},
       {"4 concordancia negativa", [](Electra1Fields& f) { f.IndiceConcordancia = "-0.1"; },
        "el valor del índice de concordancia no es correcto, debe introducir un valor comprendido "
-       "entre 0 y 1", ""},
+       "entre 0 y 1",
+       ""},
       {"5 discordancia con letras", [](Electra1Fields& f) { f.IndiceDiscordancia = "abc"; },
        "Debe introducir el valor del índice de discordancia", "IndiceDiscordancia"},
       {"6 discordancia sobre 1, con foco", [](Electra1Fields& f) { f.IndiceDiscordancia = "2"; },
        "el valor del índice dediscordancia no es correcto, debe introducir un valor comprendido "
-       "entre 0 y 1", "IndiceDiscordancia"},
+       "entre 0 y 1",
+       "IndiceDiscordancia"},
       {"7 C1 vacía, con el blanco final", [](Electra1Fields& f) { f.C[0][2].text = ""; },
        "Debe completar la tabla de escalas de valoración ", "C1(2)"},
       {"8 C1 fuera de rango", [](Electra1Fields& f) { f.C[0][1].text = "-1000000000"; },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendido "
-       "entre -999999999 y 999999999", "C1(1)"},
+       "entre -999999999 y 999999999",
+       "C1(1)"},
       {"8 C4 fuera de rango", [](Electra1Fields& f) { f.C[3][0].text = "1e10"; },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendido "
-       "entre -999999999 y 999999999", "C4(0)"},
+       "entre -999999999 y 999999999",
+       "C4(0)"},
       {"9 C3 no numérica", [](Electra1Fields& f) { f.C[2][3].text = "tres"; },
        "Debe completar la tabla de escalas de valoración", "C3(3)"},
       {"9 los pesos en C5 hablan de la tabla", [](Electra1Fields& f) { f.C[4][1].text = ""; },
@@ -97,14 +113,22 @@ TEST(Electra1, ChecksRunInTheirOrderWithTheirFocus) {
       {"8 los pesos en C5 fuera de rango hablan de la tabla",
        [](Electra1Fields& f) { f.C[4][0].text = "2e9"; },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendido "
-       "entre -999999999 y 999999999", "C5(0)"},
+       "entre -999999999 y 999999999",
+       "C5(0)"},
       {"fila antes que columna: C4(0) antes que C1(1)",
-       [](Electra1Fields& f) { f.C[3][0].text = "?"; f.C[0][1].text = "?"; },
+       [](Electra1Fields& f) {
+         f.C[3][0].text = "?";
+         f.C[0][1].text = "?";
+       },
        "Debe completar la tabla de escalas de valoración", "C4(0)"},
       {"en una celda, número antes que rango: C1(0) numérica y fuera, C2(0) vacía",
-       [](Electra1Fields& f) { f.C[0][0].text = "1e12"; f.C[1][0].text = ""; },
+       [](Electra1Fields& f) {
+         f.C[0][0].text = "1e12";
+         f.C[1][0].text = "";
+       },
        "El valor de la escala de valoración no es correcto, debe introducir un valor comprendido "
-       "entre -999999999 y 999999999", "C1(0)"},
+       "entre -999999999 y 999999999",
+       "C1(0)"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -130,17 +154,37 @@ TEST(Electra1, OnlyTheSeventhColumnSpeaksOfTheWeights) {
 }
 
 TEST(Electra1, AcceptsWhatNoCheckRefuses) {
-  struct Case { const char* name; void (*edit)(Electra1Fields&); } cases[] = {
+  struct Case {
+    const char* name;
+    void (*edit)(Electra1Fields&);
+  } cases[] = {
       {"escala cero y límite", [](Electra1Fields& f) { f.escalaValoracion = "0"; }},
       {"escala máxima", [](Electra1Fields& f) { f.escalaValoracion = "999999999"; }},
       {"límites en sus extremos",
-       [](Electra1Fields& f) { f.IndiceConcordancia = "0"; f.IndiceDiscordancia = "1"; }},
+       [](Electra1Fields& f) {
+         f.IndiceConcordancia = "0";
+         f.IndiceDiscordancia = "1";
+       }},
       {"concordancia bajo la discordancia",
-       [](Electra1Fields& f) { f.IndiceConcordancia = "0.1"; f.IndiceDiscordancia = "0.9"; }},
-      {"pesos negativos y cero", [](Electra1Fields& f) { f.C[4][0].text = "-3"; f.C[4][1].text = "0"; }},
+       [](Electra1Fields& f) {
+         f.IndiceConcordancia = "0.1";
+         f.IndiceDiscordancia = "0.9";
+       }},
+      {"pesos negativos y cero",
+       [](Electra1Fields& f) {
+         f.C[4][0].text = "-3";
+         f.C[4][1].text = "0";
+       }},
       {"valoraciones en los extremos",
-       [](Electra1Fields& f) { f.C[0][0].text = "-999999999"; f.C[1][0].text = "999999999"; }},
-      {"celdas ocultas no se miran", [](Electra1Fields& f) { f.C[5][0].text = "x"; f.C[0][4].text = "x"; }},
+       [](Electra1Fields& f) {
+         f.C[0][0].text = "-999999999";
+         f.C[1][0].text = "999999999";
+       }},
+      {"celdas ocultas no se miran",
+       [](Electra1Fields& f) {
+         f.C[5][0].text = "x";
+         f.C[0][4].text = "x";
+       }},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -162,26 +206,39 @@ TEST(Electra1, OutrankingAndKernelCases) {
       {"libro", libro(), {{1, 3}, {1, 4}, {2, 4}, {3, 2}, {3, 4}}, {1}},
       {"una alternativa: los pesos en C2", problema({{"5"}, {"3"}}, {"2", "1"}), {}, {1}},
       {"dos iguales se sobreclasifican mutuamente",
-       problema({{"4", "4"}, {"7", "7"}}, {"1", "2"}, "10", "1", "0"), {{1, 2}, {2, 1}}, {}},
+       problema({{"4", "4"}, {"7", "7"}}, {"1", "2"}, "10", "1", "0"),
+       {{1, 2}, {2, 1}},
+       {}},
       {"dos iguales y una tercera en el núcleo",
        problema({{"4", "4", "1"}, {"7", "7", "9"}}, {"1", "1"}, "10", "0.9", "0"),
-       {{1, 2}, {2, 1}}, {3}},
-      {"ciclo", problema({{"3", "1", "2"}, {"2", "3", "1"}, {"1", "2", "3"}}, {"1", "1", "1"},
-                         "10", "0.6", "0.2"),
-       {{1, 3}, {2, 1}, {3, 2}}, {}},
+       {{1, 2}, {2, 1}},
+       {3}},
+      {"ciclo",
+       problema({{"3", "1", "2"}, {"2", "3", "1"}, {"1", "2", "3"}}, {"1", "1", "1"}, "10", "0.6",
+                "0.2"),
+       {{1, 3}, {2, 1}, {3, 2}},
+       {}},
       {"ciclo roto por una discordancia justo sobre el límite",
        problema({{"3", "1", "2"}, {"2", "3", "1"}, {"1", "2", "3"}}, {"1", "1", "1"}, "10", "0.6",
                 "0.19999"),
-       {}, {1, 2, 3}},
+       {},
+       {1, 2, 3}},
       {"concordancia 0 y discordancia 1: todos los pares",
        problema({{"1", "9", "5"}, {"9", "1", "5"}}, {"1", "1"}, "8", "0", "1"),
-       {{1, 2}, {1, 3}, {2, 1}, {2, 3}, {3, 1}, {3, 2}}, {}},
+       {{1, 2}, {1, 3}, {2, 1}, {2, 3}, {3, 1}, {3, 2}},
+       {}},
       {"una diferencia mayor que la escala no se satura en 1",
-       problema({{"0", "30"}, {"1", "0"}}, {"1", "1"}, "10", "0.5", "1"), {{2, 1}}, {2}},
+       problema({{"0", "30"}, {"1", "0"}}, {"1", "1"}, "10", "0.5", "1"),
+       {{2, 1}},
+       {2}},
       {"pesos negativos restan concordancia",
-       problema({{"2", "1"}, {"1", "2"}}, {"-1", "3"}, "10", "0.5", "1"), {{2, 1}}, {2}},
+       problema({{"2", "1"}, {"1", "2"}}, {"-1", "3"}, "10", "0.5", "1"),
+       {{2, 1}},
+       {2}},
       {"valores iguales a través del texto aunque los dobles difieran",
-       problema({{"0.30000000000000004", "0.3"}}, {"1"}, "1e-20", "1", "0"), {{1, 2}, {2, 1}}, {}},
+       problema({{"0.30000000000000004", "0.3"}}, {"1"}, "1e-20", "1", "0"),
+       {{1, 2}, {2, 1}},
+       {}},
   };
   for (Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -201,14 +258,18 @@ TEST(Electra1, ConcordanceCountsTiesForBothAndDiscordanceUsesTheOneScale) {
   EXPECT_EQ(r.Concordancia[0][1], 0.75);  // the tie and criterion 3
   EXPECT_EQ(r.Concordancia[1][0], 0.5);   // the tie and criterion 2: 1.25 in all
   EXPECT_EQ(r.Discordancia[0][0], 0.0);
-  EXPECT_EQ(r.Discordancia[0][1], 1.0);   // (6 - 2) / 4
-  EXPECT_EQ(r.Discordancia[1][0], 2.0);   // (9 - 1) / 4, beyond 1
+  EXPECT_EQ(r.Discordancia[0][1], 1.0);      // (6 - 2) / 4
+  EXPECT_EQ(r.Discordancia[1][0], 2.0);      // (9 - 1) / 4, beyond 1
   EXPECT_EQ(r.Sobreclasificacion[0][0], 1);  // itself, never counted nor reported
   EXPECT_TRUE(pares(r).empty());
 }
 
 TEST(Electra1, DivisionsByZeroAreThePlatformsErrors) {
-  struct Case { const char* name; Electra1Fields fields; int error; } cases[] = {
+  struct Case {
+    const char* name;
+    Electra1Fields fields;
+    int error;
+  } cases[] = {
       {"escala cero con una preferencia estricta",
        problema({{"2", "1"}, {"1", "2"}}, {"1", "1"}, "0"), err::DivisionByZero},
       {"todos los pesos cero", problema({{"2", "1"}, {"1", "2"}}, {"0", "0"}), err::Overflow},
@@ -275,7 +336,10 @@ TEST(Electra1, RediseñarShapesTheTableAndKeepsTheTexts) {
   }
   EXPECT_EQ(f.C[6][6].text, "guardado");
 
-  struct Case { int na, nc; const char* message; } empties[] = {
+  struct Case {
+    int na, nc;
+    const char* message;
+  } empties[] = {
       {-1, 3, "Seleccione el número de Alternativas"},
       {-1, -1, "Seleccione el número de Alternativas"},
       {3, -1, "Seleccione el número de Criterios"},
@@ -291,8 +355,8 @@ TEST(Electra1, RediseñarShapesTheTableAndKeepsTheTexts) {
 }
 
 TEST(Electra1, NuevoRestoresTheFirstShapeAndKeepsTheTitle) {
-  Electra1Fields f = problema(Tabla(7, {"1", "2", "3", "4", "5", "6"}),
-                              std::vector<std::string>(7, "1"));
+  Electra1Fields f =
+      problema(Tabla(7, {"1", "2", "3", "4", "5", "6"}), std::vector<std::string>(7, "1"));
   f.Título = "Mío";
   nuevo(f);
   Electra1Fields fresh;
@@ -321,7 +385,8 @@ TEST(Electra1, FileItemsInOrderAndRoundTrip) {
             std::string::npos);
   EXPECT_NE(bytes.find("#TRUE#\r\n\"Ponderaci\xF3n\"\r\n16761024\r\n#FALSE#\r\n\"\""),
             std::string::npos);
-  EXPECT_TRUE(bytes.ends_with("\"oculta\"\r\n#FALSE#\r\n#FALSE#\r\n\"Alternativa 7\"\r\n12648384\r\n"));
+  EXPECT_TRUE(
+      bytes.ends_with("\"oculta\"\r\n#FALSE#\r\n#FALSE#\r\n\"Alternativa 7\"\r\n12648384\r\n"));
   std::size_t lines = 0;
   for (char c : bytes) lines += c == '\n';
   EXPECT_EQ(lines, 6u + 7u * (1 + 14 + 3));
@@ -345,8 +410,7 @@ TEST(Electra1, AFileReadStopsAtAnItemThatDoesNotFit) {
     std::string title;  // what the read stored before it stopped
     int na;
   } cases[] = {
-      {"índice de lista fuera de la lista: alternativas",
-       "\"T\"\r\n2\r\n6\r\n\"10\"\r\n", "T", 3},
+      {"índice de lista fuera de la lista: alternativas", "\"T\"\r\n2\r\n6\r\n\"10\"\r\n", "T", 3},
       {"índice de lista fuera de la lista: criterios", "\"T\"\r\n7\r\n", "T", 3},
       {"combo vacío", "\"T\"\r\n-1\r\n-1\r\n\"1\"\r\n", "T", -1},
       {"colour that is no number",

@@ -1,9 +1,10 @@
+#include "decision/incertidumbre.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
 #include <vector>
 
-#include "decision/incertidumbre.h"
 #include "frame/arith.h"
 #include "tests/test_support.h"
 
@@ -27,7 +28,9 @@ IncertidumbreFields problema(const Tabla& resultados, const std::string& alfa = 
 }
 
 IncertidumbreFields libro() {
-  return problema({{"20", "12", "8", "4"}, {"16", "14", "10", "6"}, {"12", "12", "12", "6"},
+  return problema({{"20", "12", "8", "4"},
+                   {"16", "14", "10", "6"},
+                   {"12", "12", "12", "6"},
                    {"24", "10", "2", "0"}},
                   "0.4");
 }
@@ -58,10 +61,17 @@ TEST(Incertidumbre, ChecksRunRowByRowAndTheFirstFailureEnds) {
        "Debe completar la tabla de resultados"},
       {"4 C2 fuera de rango", [](IncertidumbreFields& f) { f.C[1][1].text = "-1e9"; }, rango2},
       {"fila antes que columna: C4(0) antes que C1(1)",
-       [](IncertidumbreFields& f) { f.C[3][0].text = "x"; f.C[0][1].text = ""; },
+       [](IncertidumbreFields& f) {
+         f.C[3][0].text = "x";
+         f.C[0][1].text = "";
+       },
        "Debe completar la tabla de resultados"},
       {"la tabla antes que Alfa",
-       [](IncertidumbreFields& f) { f.C[2][3].text = "2e9"; f.Alfa = "7"; }, rango2},
+       [](IncertidumbreFields& f) {
+         f.C[2][3].text = "2e9";
+         f.Alfa = "7";
+       },
+       rango2},
       {"5 Alfa sobre 1", [](IncertidumbreFields& f) { f.Alfa = "1.5"; },
        "El valor del coeficiente de optimismo no es correcto, debe introducir un valor "
        "comprendido entre 0 y 1"},
@@ -99,23 +109,56 @@ TEST(Incertidumbre, CriteriaSelectTheirAlternatives) {
       {"una alternativa", problema({{"-5", "10", "2.5"}}, "0.5"), {1}, {1}, {1}, {1}, {1}},
       {"un estado", problema({{"3"}, {"5"}, {"5"}}, "0"), {2, 3}, {2, 3}, {2, 3}, {2, 3}, {2, 3}},
       {"empates en orden ascendente",
-       problema({{"1", "5"}, {"2", "4"}, {"1", "5"}, {"2", "4"}}, "0.5"), {2, 4}, {1, 3},
-       {1, 2, 3, 4}, {1, 2, 3, 4}, {1, 2, 3, 4}},
+       problema({{"1", "5"}, {"2", "4"}, {"1", "5"}, {"2", "4"}}, "0.5"),
+       {2, 4},
+       {1, 3},
+       {1, 2, 3, 4},
+       {1, 2, 3, 4},
+       {1, 2, 3, 4}},
       {"una mejor más tarde borra las anteriores",
-       problema({{"1", "9"}, {"1", "9"}, {"2", "10"}}, "0.3"), {3}, {3}, {3}, {3}, {3}},
+       problema({{"1", "9"}, {"1", "9"}, {"2", "10"}}, "0.3"),
+       {3},
+       {3},
+       {3},
+       {3},
+       {3}},
       {"Laplace exacto: la misma media por otras sumas no empata",
        problema({{"1", "1", "1", "1", "1", "1", "1"}, {"7", "0", "0", "0", "0", "0", "0"}}, "1"),
-       {1}, {2}, {2}, {2}, {1}},
+       {1},
+       {2},
+       {2},
+       {2},
+       {1}},
       {"Laplace exacto con tres estados",
-       problema({{"0.1", "0.2", "0"}, {"0.3", "0", "0"}}, ""), {1, 2}, {2}, {1}, {1}, {}},
+       problema({{"0.1", "0.2", "0"}, {"0.3", "0", "0"}}, ""),
+       {1, 2},
+       {2},
+       {1},
+       {1},
+       {}},
       {"alfa 0 es maximax", problema({{"0", "10"}, {"4", "5"}}, "0"), {2}, {1}, {1}, {1}, {1}},
       {"alfa 1 es Wald", problema({{"0", "10"}, {"4", "5"}}, "1"), {2}, {1}, {1}, {1}, {2}},
-      {"alfa pesa el peor resultado", problema({{"0", "10"}, {"4", "5"}}, "0.25"), {2}, {1}, {1},
-       {1}, {1}},
-      {"alfa 0.8 elige la prudente", problema({{"0", "10"}, {"4", "5"}}, "0.8"), {2}, {1}, {1},
-       {1}, {2}},
-      {"sin alfa numérico nada se elige por Hurwicz", problema({{"0", "10"}, {"4", "5"}}, "abc"),
-       {2}, {1}, {1}, {1}, {}},
+      {"alfa pesa el peor resultado",
+       problema({{"0", "10"}, {"4", "5"}}, "0.25"),
+       {2},
+       {1},
+       {1},
+       {1},
+       {1}},
+      {"alfa 0.8 elige la prudente",
+       problema({{"0", "10"}, {"4", "5"}}, "0.8"),
+       {2},
+       {1},
+       {1},
+       {1},
+       {2}},
+      {"sin alfa numérico nada se elige por Hurwicz",
+       problema({{"0", "10"}, {"4", "5"}}, "abc"),
+       {2},
+       {1},
+       {1},
+       {1},
+       {}},
   };
   for (Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -159,7 +202,10 @@ TEST(Incertidumbre, ValuesOfTheCriteria) {
 }
 
 TEST(Incertidumbre, ButtonsVisibleOnEachPage) {
-  struct Case { Navegacion estado; Botones botones; } cases[] = {
+  struct Case {
+    Navegacion estado;
+    Botones botones;
+  } cases[] = {
       {{Pagina::Wald, false}, {.forward1 = true, .volver = true}},
       {{Pagina::Wald, true}, {.forward1 = true, .volver = true}},
       {{Pagina::Maximax, false}, {.Back1 = true, .forward2 = true}},
@@ -176,7 +222,12 @@ TEST(Incertidumbre, EachClickGoesWhereItsButtonLeads) {
   const Navegacion wald{Pagina::Wald, false}, maximax{Pagina::Maximax, false},
       conAlfa{Pagina::SavageLaplace, true}, sinAlfa{Pagina::SavageLaplace, false},
       hurwicz{Pagina::Hurwicz, false};
-  struct Case { Navegacion desde; Boton boton; const char* alfa; Navegacion hasta; } cases[] = {
+  struct Case {
+    Navegacion desde;
+    Boton boton;
+    const char* alfa;
+    Navegacion hasta;
+  } cases[] = {
       {wald, Boton::forward1, "0.5", maximax},
       {maximax, Boton::Back1, "0.5", wald},
       {maximax, Boton::forward2, "0.5", conAlfa},
@@ -217,10 +268,11 @@ TEST(Incertidumbre, BrowsingPageByPage) {
   const IncertidumbreResults r = solve(f);
   const std::string blank = at(15, "") + "\n";
   const std::string rule = at(14, std::string(74, '_') + " ") + "\n";
-  const std::string head = blank + blank + blank + blank + at(14, "Solución al problema: Dos por dos\n") +
-                           rule + blank;
+  const std::string head =
+      blank + blank + blank + blank + at(14, "Solución al problema: Dos por dos\n") + rule + blank;
   const std::string full = head + etiqueta("Numero de alternativas:", 56, "2") + "\n" +
-                           etiqueta("Numero de estados de la naturaleza:", 56, "2") + "\n" + rule + blank;
+                           etiqueta("Numero de estados de la naturaleza:", 56, "2") + "\n" + rule +
+                           blank;
   auto alt = [](int n) { return at(14, "Alternativa " + std::to_string(n) + " \n"); };
   auto value = [](int n, const std::string& v) {
     return etiqueta("Alternativa " + std::to_string(n) + " :", 56, v) + "\n";
@@ -251,9 +303,9 @@ TEST(Incertidumbre, BrowsingPageByPage) {
 
   // A walk over every page and back, each click rewriting the page.
   const std::vector<std::pair<Boton, Pagina>> walk = {
-      {Boton::forward1, Pagina::Maximax},       {Boton::forward2, Pagina::SavageLaplace},
-      {Boton::Continuar1, Pagina::Hurwicz},     {Boton::NoContinuar2, Pagina::SavageLaplace},
-      {Boton::Continuar2, Pagina::Maximax},     {Boton::Back1, Pagina::Wald},
+      {Boton::forward1, Pagina::Maximax},   {Boton::forward2, Pagina::SavageLaplace},
+      {Boton::Continuar1, Pagina::Hurwicz}, {Boton::NoContinuar2, Pagina::SavageLaplace},
+      {Boton::Continuar2, Pagina::Maximax}, {Boton::Back1, Pagina::Wald},
   };
   Navegacion estado;
   for (const auto& [boton, destino] : walk) {
@@ -270,9 +322,8 @@ TEST(Incertidumbre, PrintedPageHoldsEveryCriterionAndAlwaysHurwicz) {
   EXPECT_EQ(page.find(std::string(65, '_')), std::string::npos);
   // The sections in order.
   std::size_t from = 0;
-  for (const char* section :
-       {"CRITERIO DE WALD", "CRITERIO MAXIMAX", "CRITERIO DE SAVAGE", "CRITERIO DE LAPLACE",
-        "CRITERIO DE HURWICZ"}) {
+  for (const char* section : {"CRITERIO DE WALD", "CRITERIO MAXIMAX", "CRITERIO DE SAVAGE",
+                              "CRITERIO DE LAPLACE", "CRITERIO DE HURWICZ"}) {
     const std::size_t found = page.find(section, from);
     ASSERT_NE(found, std::string::npos) << section;
     from = found;
@@ -302,7 +353,10 @@ TEST(Incertidumbre, RediseñarAndNuevo) {
   }
   EXPECT_EQ(f.C[6][6].text, "guardado");
 
-  struct Case { int na, ne; const char* message; } empties[] = {
+  struct Case {
+    int na, ne;
+    const char* message;
+  } empties[] = {
       {-1, -1, "Seleccione el número de estados"},
       {3, -1, "Seleccione el número de estados"},
       {-1, 3, "Seleccione el número de alternativas"},
@@ -347,9 +401,10 @@ TEST(Incertidumbre, FileItemsInOrderAndRoundTrip) {
       "\"A\xF1o\"\r\n3\r\n3\r\n\"0.4\"\r\n#TRUE#\r\n\"20\"\r\n#TRUE#\r\n\"12\"\r\n#TRUE#\r\n";
   EXPECT_EQ(bytes.substr(0, head.size()), head);
   // Row 0: its state head, seven cells, then its alternative head.
-  EXPECT_NE(bytes.find("\"4\"\r\n#TRUE#\r\n\"\"\r\n#FALSE#\r\n\"\"\r\n#FALSE#\r\n\"\"\r\n#FALSE#\r\n"
-                       "#TRUE#\r\n#TRUE#\r\n\"16\""),
-            std::string::npos);
+  EXPECT_NE(
+      bytes.find("\"4\"\r\n#TRUE#\r\n\"\"\r\n#FALSE#\r\n\"\"\r\n#FALSE#\r\n\"\"\r\n#FALSE#\r\n"
+                 "#TRUE#\r\n#TRUE#\r\n\"16\""),
+      std::string::npos);
   EXPECT_TRUE(bytes.ends_with("\"oculta\"\r\n#FALSE#\r\n#FALSE#\r\n"));
   std::size_t lines = 0;
   for (char c : bytes) lines += c == '\n';
