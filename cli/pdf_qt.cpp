@@ -1,0 +1,33 @@
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include "cli/pdf.h"
+#include "frame/gui/printing.h"
+
+namespace vorel::cli {
+
+bool writePdf(const Report& page, const std::string& path, std::string& error) {
+  if (!QGuiApplication::instance()) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int argc = 1;
+    static char name[] = "vorel-report";
+    static char* argv[] = {name, nullptr};
+    new QGuiApplication(argc, argv);
+  }
+  QPdfWriter writer(QString::fromStdString(path));
+  writer.setPageSize(QPageSize(QPageSize::A4));
+  writer.setResolution(300);
+  gui::preparePage(writer);
+  QPainter painter;
+  if (!painter.begin(&writer)) {
+    error = "No se pudo escribir el PDF: " + path;
+    return false;
+  }
+  painter.setFont(gui::reportFont(gui::kPrinterPointSize));
+  gui::paintReport(painter, page, 0, [&writer] { writer.newPage(); });
+  painter.end();
+  return true;
+}
+
+}  // namespace vorel::cli

@@ -1,0 +1,130 @@
+// The bases of every model's screens: an entry screen with its title field,
+// nuevo, abrir, guardar and Resolver; a solution screen with its report box
+// Solucion1 and Imprimir.
+#pragma once
+
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <utility>
+#include <vector>
+
+#include "frame/gui/platform.h"
+#include "frame/gui/printing.h"
+#include "frame/gui/report_box.h"
+#include "frame/gui/screen.h"
+#include "frame/model.h"
+
+namespace vorel::gui {
+
+// A command picture with its name in small type below it.
+QVBoxLayout* captioned(QAbstractButton* button);
+
+class EntryScreen : public Screen {
+  Q_OBJECT
+public:
+  // `titleField` is the title box's control name ("Titulo1", "Título").
+  EntryScreen(const std::string& name, const QString& title, const QString& intro,
+              const QString& titleField, const QString& titlePreset);
+
+  QLineEdit* titleField() const { return titleField_; }
+  // A labelled text box on the form's grid of fields.
+  QLineEdit* addField(const QString& objectName, const QString& label,
+                      const QString& toolTip = {});
+  QGridLayout* fieldGrid() const { return fields_; }
+
+  // Shows every message in order, focus going to its control, as Resolver's
+  // checks do. True when there was none.
+  bool tell(const Messages& messages);
+  // Shows the solution screen and, unless it stays, hides this one.
+  void showSolution(const std::string& solution);
+
+protected:
+  virtual void nuevo() = 0;
+  virtual void abrir() = 0;
+  virtual void guardar() = 0;
+  virtual void resolver() = 0;
+
+private:
+  QLineEdit* titleField_;
+  QGridLayout* fields_;
+};
+
+// The part of an entry screen that knows its model's fields.
+template <class Fields>
+class ModelEntry : public EntryScreen {
+public:
+  using EntryScreen::EntryScreen;
+
+  virtual Fields fields() const = 0;
+  virtual void setFields(const Fields& f) = 0;
+
+protected:
+  virtual void exchange(ProblemFile& file, Fields& f) = 0;
+  virtual Messages check(const Fields& f) = 0;
+
+  void abrir() override {
+    auto path = platform().openDialog(kOpenFilter, 2);
+    if (!path) return;
+    Fields f = fields();
+    openProblem(path->toStdString(), [&](ProblemFile& file) { exchange(file, f); });
+    setFields(f);  // what was read before a failure stays
+  }
+  void guardar() override {
+    auto path = platform().saveDialog(kSaveFilter, 2, titleField()->text());
+    if (!path) return;
+    Fields f = fields();
+    saveProblem(path->toStdString(), [&](ProblemFile& file) { exchange(file, f); });
+  }
+  void resolver() override {
+    if (tell(check(fields()))) showSolution(info()->solutions.front());
+  }
+};
+
+// Binds text boxes to the text members of a fields struct.
+template <class Fields>
+class TextBindings {
+public:
+  void bind(std::string Fields::*member, QLineEdit* box) { bindings_.push_back({member, box}); }
+  void read(Fields& f) const {
+    for (auto& [member, box] : bindings_) f.*member = box->text().toStdString();
+  }
+  void write(const Fields& f) const {
+    for (auto& [member, box] : bindings_) box->setText(QString::fromStdString(f.*member));
+  }
+
+private:
+  std::vector<std::pair<std::string Fields::*, QLineEdit*>> bindings_;
+};
+
+class SolutionScreen : public Screen {
+  Q_OBJECT
+public:
+  // `columns` and `lines` size the report box for the largest report.
+  SolutionScreen(const std::string& name, const QString& label, int columns, int lines);
+
+  ReportBox* Solucion1() const { return report_; }
+  const Report& page() const { return page_; }
+
+  void formActivate() override;
+
+protected:
+  // Reads the entry screen's fields afresh and computes both reports.
+  virtual Pages compute() = 0;
+  virtual void imprimir();
+
+  template <class EntryType>
+  EntryType& entry() const {
+    return *dynamic_cast<EntryType*>(Screens::instance().load(info()->entry));
+  }
+  QHBoxLayout* commandRow() const { return commands_; }
+
+private:
+  ReportBox* report_;
+  QHBoxLayout* commands_;
+  Report page_;
+};
+
+}  // namespace vorel::gui

@@ -1,0 +1,39 @@
+#include "frame/gui/picture_button.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace vorel::gui {
+
+QString picturePath(const QString& name) { return QStringLiteral(":/pictures/%1.svg").arg(name); }
+
+PictureButton::PictureButton(const QString& picture, int size, QWidget* parent)
+    : QAbstractButton(parent), picture_(picture), size_(size) {
+  setCursor(Qt::PointingHandCursor);
+  setFixedSize(sizeHint());
+  setFocusPolicy(Qt::NoFocus);
+}
+
+QSize PictureButton::sizeHint() const { return {size_, size_}; }
+
+void PictureButton::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.setRenderHint(QPainter::Antialiasing);
+  if (!isEnabled()) p.setOpacity(0.3);
+  const double inset = hover_ && isEnabled() ? 0 : size_ * 0.04;
+  QSvgRenderer renderer(picturePath(picture_));
+  renderer.render(&p, QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+  if (isDown()) p.fillRect(rect(), QColor(0, 0, 0, 30));
+}
+
+void PictureButton::enterEvent(QEnterEvent*) {
+  hover_ = true;
+  update();
+}
+
+void PictureButton::leaveEvent(QEvent*) {
+  hover_ = false;
+  update();
+}
+
+}  // namespace vorel::gui

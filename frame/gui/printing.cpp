@@ -1,0 +1,108 @@
+#include "frame/gui/printing.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrinter>
+#include <functional>
+#include <memory>
+
+#include "frame/gui/platform.h"
+
+namespace vorel::gui {
+
+QFont reportFont(double pointSize) {
+  QFont font(QStringLiteral("Arial"));
+  font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+  font.setPointSizeF(pointSize);
+  font.setWeight(QFont::Normal);
+  return font;
+}
+
+double paintReport(QPainter& painter, const Report& report, double top,
+                   const std::function<void()>& newPage) {
+  const QFontMetricsF metrics(painter.font(), painter.device());
+  const double zone = kZoneColumns * metrics.averageCharWidth();
+  auto width = [&](const std::string& s) {
+    return metrics.horizontalAdvance(QString::fromStdString(s));
+  };
+  const double bottom = painter.device()->height();
+  double y = top;
+  for (const LaidOutLine& line : layout(report, zone, width)) {
+    if (newPage && y + metrics.lineSpacing() > bottom) {
+      newPage();
+      y = 0;
+    }
+    for (const PlacedText& piece : line)
+      painter.drawText(QPointF(piece.x, y + metrics.ascent()), QString::fromStdString(piece.text));
+    y += metrics.lineSpacing();
+  }
+  return y;
+}
+
+void preparePage(QPagedPaintDevice& device) {
+  device.setPageMargins(QMarginsF(6, 6, 6, 6), QPageLayout::Millimeter);
+}
+
+namespace {
+
+// The open printer document and where its next line goes.
+struct Document {
+  std::unique_ptr<QPainter> painter;
+  double y = 0;
+};
+
+Document& document() {
+  static Document d;
+  return d;
+}
+
+QPainter& beginIfNeeded() {
+  Document& d = document();
+  if (!d.painter) {
+    QPrinter& printer = platform().printer();
+    preparePage(printer);
+    d.painter = std::make_unique<QPainter>();
+    if (!d.painter->begin(&printer)) {
+      d.painter.reset();
+      raise(err::PrinterError);
+    }
+    d.y = 0;
+  }
+  d.painter->setFont(reportFont(kPrinterPointSize));
+  return *d.painter;
+}
+
+// Prints line by line, going on to a new page at the bottom of the page.
+void printLines(const Report& page) {
+  Document& d = document();
+  QPainter& painter = beginIfNeeded();
+  auto* printer = static_cast<QPrinter*>(painter.device());
+  d.y = paintReport(painter, page, d.y, [printer] { printer->newPage(); });
+}
+
+}  // namespace
+
+void printReport(const Report& page) { printLines(page); }
+
+void printChartPage(const Report& page, const QImage& chart, double leftFraction,
+                    double topFraction) {
+  printLines(page);
+  QPainter& painter = *document().painter;
+  const QRect area = painter.viewport();
+  // The picture keeps its size on paper: its pixels are taken at screen resolution.
+  const double scale = painter.device()->logicalDpiX() / 96.0;
+  const QRectF target(area.width() * leftFraction, area.height() * topFraction,
+                      chart.width() * scale, chart.height() * scale);
+  painter.drawImage(target, chart);
+  finishPrinterDocument();
+}
+
+void finishPrinterDocument() {
+  Document& d = document();
+  if (d.painter) {
+    d.painter->end();
+    d.painter.reset();
+  }
+}
+
+}  // namespace vorel::gui

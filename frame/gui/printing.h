@@ -1,0 +1,40 @@
+// Reports on paper. Text reports gather in one printer document for the whole
+// process: it goes out when the process ends. A chart page ends its document
+// at once.
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <functional>
+
+#include "frame/report.h"
+
+class QPainter;
+class QPagedPaintDevice;
+
+namespace vorel::gui {
+
+// The fonts of reports: Arial (Liberation Sans has its metrics).
+QFont reportFont(double pointSize);
+inline constexpr double kScreenPointSize = 8.25;
+inline constexpr double kPrinterPointSize = 12;
+
+// Paints a report from `top`, a zone being 14 average character widths of the
+// painter's font; returns the y below the last line. With `newPage`, a line
+// that would pass the device's bottom goes on a new page.
+double paintReport(QPainter& painter, const Report& report, double top,
+                   const std::function<void()>& newPage = {});
+
+// Narrow margins, so a report's rule fits the width of the page.
+void preparePage(QPagedPaintDevice& device);
+
+// Imprimir of a text report: the lines go on in the open document.
+void printReport(const Report& page);
+// Imprimir of a chart model: the text, then the picture at the given fractions
+// of the page's width and height; the document ends.
+void printChartPage(const Report& page, const QImage& chart, double leftFraction,
+                    double topFraction);
+// Ends the gathered document, if any (at the end of the process).
+void finishPrinterDocument();
+
+}  // namespace vorel::gui

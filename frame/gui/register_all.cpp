@@ -1,0 +1,19 @@
+// Every screen of the program, registered by name.
+#include <QtGlobal>
+
+#include "frame/gui/menus.h"
+#include "frame/gui/screen.h"
+#include "inventory/eoq_screens.h"
+
+// The pictures live in the library's resources, which a static link must pull in.
+static void initPictures() { Q_INIT_RESOURCE(vorel); }
+
+namespace vorel::gui {
+
+void registerAllScreens() {
+  initPictures();
+  registerMenuScreens();
+  inventory::registerScreens();
+}
+
+}  // namespace vorel::gui

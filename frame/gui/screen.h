@@ -1,0 +1,101 @@
+// Screens: borderless top-level windows, one instance each, shown, hidden or
+// unloaded by name. The first show loads a screen (formLoad); every show
+// activates it (formActivate); hiding keeps all it holds; unloading destroys it.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "frame/navigation.h"
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace vorel::gui {
+
+class PictureButton;
+
+class Screen : public QWidget {
+  Q_OBJECT
+public:
+  explicit Screen(const std::string& name);
+  const std::string& name() const { return name_; }
+  const nav::ScreenInfo* info() const { return info_; }
+
+  virtual void formLoad() {}
+  virtual void formActivate() {}
+
+  // Runs a command handler; a run-time error goes to the platform, which
+  // shows it and ends the process.
+  static void run(const std::function<void()>& handler);
+
+  // A picture that acts as a command, wired through run().
+  PictureButton* command(const QString& objectName, const QString& picture,
+                         const QString& toolTip, std::function<void()> handler,
+                         int size = 36);
+
+protected:
+  // The body of the window, below the header band with the chrome.
+  QVBoxLayout* body() const { return body_; }
+  QHBoxLayout* chromeBar() const { return chrome_; }
+  void setHeading(const QString& text);
+  void setAccent(const QColor& color);
+
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+private:
+  void buildChrome();
+
+  std::string name_;
+  const nav::ScreenInfo* info_;
+  QVBoxLayout* body_;
+  QHBoxLayout* chrome_;
+  QLabel* heading_;
+  QColor accent_;
+  QPoint dragFrom_;
+};
+
+using ScreenFactory = std::function<Screen*()>;
+
+// The screens of the process by name, created on first show.
+class Screens {
+public:
+  static Screens& instance();
+
+  void add(const std::string& name, ScreenFactory factory);
+  bool available(const std::string& name) const { return factories_.count(name) > 0; }
+
+  Screen* show(const std::string& name);
+  void hide(const std::string& name);
+  void unload(const std::string& name);
+  Screen* loaded(const std::string& name) const;  // null when not loaded
+  template <class T>
+  T* loadedAs(const std::string& name) const { return dynamic_cast<T*>(loaded(name)); }
+  // The screen, loaded first if it is not (as reading another form's control does).
+  Screen* load(const std::string& name);
+
+  // volver, gohome and cerrar as the screen tree says.
+  void volver(Screen& from);
+  void gohome(Screen& from);
+  void cerrar(Screen& from);
+
+  // Unloads every screen (tests: a fresh process).
+  void reset();
+  int loadedCount() const { return static_cast<int>(loaded_.size()); }
+  // Called when the last loaded screen is unloaded; the application quits.
+  std::function<void()> onNoScreenLoaded;
+
+private:
+  std::map<std::string, ScreenFactory> factories_;
+  std::map<std::string, Screen*> loaded_;
+};
+
+// Registers every screen of the program (menus, start, models).
+void registerAllScreens();
+
+}  // namespace vorel::gui

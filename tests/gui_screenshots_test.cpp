@@ -1,0 +1,57 @@
+// Pictures of the screens for a person to look at: run by
+// scripts/screenshots.sh under a virtual display (disabled in the suite).
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+#include "cli/models.h"
+#include "frame/gui/model_screens.h"
+#include "frame/navigation.h"
+#include "tests/gui_support.h"
+
+namespace vorel::testing {
+namespace {
+
+using Screenshots = ScreenTest;
+
+void save(gui::Screen* s, const QString& dir, const std::string& name) {
+  wait(150);
+  s->grab().save(QDir(dir).filePath(QString::fromStdString(name) + ".png"));
+}
+
+TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
+  const QString dir = qEnvironmentVariable("VOREL_SCREENSHOTS", "screenshots");
+  QDir().mkpath(dir);
+  for (const nav::ScreenInfo& info : nav::screens()) {
+    if (!screens().available(info.name) || info.kind == nav::Kind::Solution) continue;
+    screens().reset();
+    gui::Screen* s = screens().show(info.name);
+    if (info.kind != nav::Kind::Entry) {
+      save(s, dir, info.name);
+      continue;
+    }
+    // A model's entry: open its first example as a student would, then
+    // picture the entry and the solution that Resolver shows.
+    const cli::CliModel* model = cli::findModel(info.name);
+    if (!model) continue;
+    const QDir examples(QString(VOREL_SOURCE_DIR) + "/examples/" + QString::fromStdString(model->id));
+    save(s, dir, info.name);
+    for (const QString& file : examples.entryList(QDir::Files, QDir::Name)) {
+      platform.openAnswers.push_back(examples.filePath(file));
+      press(info.name, "abrir");
+      platform.messages.clear();
+      press(info.name, "Resolver");
+      bool solved = false;
+      for (const std::string& solution : info.solutions) {
+        if (!visible(solution)) continue;
+        save(screens().loaded(info.name), dir, info.name);
+        save(screen(solution), dir, solution);
+        solved = true;
+      }
+      if (solved) break;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vorel::testing

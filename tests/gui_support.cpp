@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include "tests/gui_support.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTest>
+
+#include "frame/gui/printing.h"
+#include "frame/problem_file.h"
+#include "tests/test_support.h"
+
+namespace vorel::testing {
+
+ScriptedPlatform::ScriptedPlatform() { gui::setPlatform(this); }
+
+ScriptedPlatform::~ScriptedPlatform() {
+  gui::finishPrinterDocument();
+  gui::setPlatform(nullptr);
+  delete printer_;
+}
+
+std::optional<QString> ScriptedPlatform::openDialog(const QString& filter, int filterIndex) {
+  lastFilter = filter;
+  lastFilterIndex = filterIndex;
+  if (openAnswers.empty()) return std::nullopt;
+  auto answer = openAnswers.front();
+  openAnswers.pop_front();
+  return answer;
+}
+
+std::optional<QString> ScriptedPlatform::saveDialog(const QString& filter, int filterIndex,
+                                                    const QString& fileName) {
+  lastFilter = filter;
+  lastFilterIndex = filterIndex;
+  lastFileName = fileName;
+  if (saveAnswers.empty()) return std::nullopt;
+  auto answer = saveAnswers.front();
+  saveAnswers.pop_front();
+  return answer;
+}
+
+QPrinter& ScriptedPlatform::printer() {
+  if (!printer_) printTo(QString());
+  return *printer_;
+}
+
+void ScriptedPlatform::printTo(const QString& pdfPath) {
+  delete printer_;
+  printer_ = new QPrinter(QPrinter::HighResolution);
+  printer_->setOutputFormat(QPrinter::PdfFormat);
+  printer_->setOutputFileName(pdfPath.isEmpty() ? QString::fromStdString(tempPath("print.pdf"))
+                                                : pdfPath);
+}
+
+void ScriptedPlatform::endProcess() {
+  gui::finishPrinterDocument();
+  ended = true;
+}
+
+void ScreenTest::SetUp() {
+  screens().reset();
+  closeAllProblemFiles();
+}
+
+void ScreenTest::TearDown() {
+  screens().reset();
+  closeAllProblemFiles();
+}
+
+void ScreenTest::press(const std::string& name, const QString& control) {
+  auto* s = screen(name);
+  ASSERT_NE(s, nullptr) << name << " is not loaded";
+  auto* button = s->findChild<QAbstractButton*>(control);
+  ASSERT_NE(button, nullptr) << name << " has no " << control.toStdString();
+  ASSERT_TRUE(button->isEnabled()) << control.toStdString() << " is disabled";
+  button->click();
+  QApplication::processEvents();
+}
+
+void ScreenTest::type(const std::string& name, const QString& control, const QString& text) {
+  auto* s = screen(name);
+  ASSERT_NE(s, nullptr) << name << " is not loaded";
+  auto* box = s->findChild<QLineEdit*>(control);
+  ASSERT_NE(box, nullptr) << name << " has no " << control.toStdString();
+  box->setText(text);
+}
+
+QString ScreenTest::text(const std::string& name, const QString& control) {
+  auto* s = screen(name);
+  if (!s) return "<not loaded>";
+  auto* box = s->findChild<QLineEdit*>(control);
+  return box ? box->text() : "<no such box>";
+}
+
+void wait(int ms) {
+  QElapsedTimer t;
+  t.start();
+  while (t.elapsed() < ms) {
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+    QTest::qSleep(5);
+  }
+}
+
+std::string pdfText(const QString& path) {
+  QProcess p;
+  p.start("pdftotext", {"-layout", path, "-"});
+  p.waitForFinished();
+  return p.readAllStandardOutput().toStdString();
+}
+
+int pdfPages(const QString& path) {
+  QProcess p;
+  p.start("pdfinfo", {path});
+  p.waitForFinished();
+  for (const QString& line : QString::fromUtf8(p.readAllStandardOutput()).split('\n'))
+    if (line.startsWith("Pages:")) return line.mid(6).trimmed().toInt();
+  return -1;
+}
+
+}  // namespace vorel::testing
