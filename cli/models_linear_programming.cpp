@@ -27,8 +27,9 @@ CliModel transporte() {
 std::vector<CliModel> linearProgrammingModels() {
   using namespace linear_programming;
   return {
-      entry<SimplexFields>("simplex", "PL_Simplex", "", exchange, check,
-                           [](SimplexFields& f) { return solveAndReport(f, kCommandLineStepBudget); }),
+      entry<SimplexFields>("simplex", "PL_Simplex", "", exchange, check, [](SimplexFields& f) {
+        return solveAndReport(f, kCommandLineStepBudget);
+      }),
       transporte(),
       entry<AsignacionFields>("asignacion", "PL_Asignación", "", exchange, check, solveAndReport),
   };

@@ -57,7 +57,7 @@ int selectorValue(int listIndex) {
 
 std::string relationText(int listIndex) {
   return listIndex >= 0 && listIndex < int(kRestriccionItems.size()) ? kRestriccionItems[listIndex]
-                                                                       : "";
+                                                                     : "";
 }
 
 void rediseñarTabla(SimplexFields& f) {
@@ -124,9 +124,15 @@ SimplexEnd solve(const SimplexFields& f, SimplexResults& s, long stepBudget) {
     for (int j = 0; j < n; ++j) A[i][j] = Val(cell(f, j, i + 1));
     b[i] = Val(item(f.existencias, i + 1).text);
     switch (item(f.restriccion, i).ListIndex) {
-      case 0: S[i] = 1; break;
-      case 1: S[i] = -1; break;
-      default: S[i] = 0; break;
+      case 0:
+        S[i] = 1;
+        break;
+      case 1:
+        S[i] = -1;
+        break;
+      default:
+        S[i] = 0;
+        break;
     }
     if (S[i] != 0) ++k;
   }
@@ -297,8 +303,7 @@ void statement(Report& out, const SimplexFields& f, const SimplexResults& s, For
     const std::string relation = relationText(item(f.restriccion, i).ListIndex);
     if (form == Form::Browsing) {
       out.cont(Z, Z, Z, rhs, relation);
-      for (int j = 0; j < n; ++j)
-        out.cont(cell(f, j, i + 1), nombreX[j], j < n - 1 ? "+" : "");
+      for (int j = 0; j < n; ++j) out.cont(cell(f, j, i + 1), nombreX[j], j < n - 1 ? "+" : "");
     } else {
       out.cont(Z, Z, Z);
       for (int j = 0; j < n; ++j) {
@@ -321,7 +326,8 @@ void solution(Report& out, const SimplexResults& s, const std::vector<std::strin
   const std::size_t rows = std::min(base.size(), bB.size());
   const auto firstColumns = s.columna.begin() + std::min<std::size_t>(s.n, s.columna.size());
   Integer counter = 0;
-  if (std::any_of(base.begin(), base.end(), [](const std::string& b) { return among(b, nombreX); })) {
+  if (std::any_of(base.begin(), base.end(),
+                  [](const std::string& b) { return among(b, nombreX); })) {
     out.line(Z, "Procesos");
     if (paper) out.line();
     for (std::size_t i = 0; i < rows; ++i) {

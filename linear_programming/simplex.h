@@ -12,8 +12,8 @@
 
 namespace vorel::linear_programming {
 
-inline constexpr int kSimplexMax = 7;    // variables, constraints
-inline constexpr int kSimplexRows = 8;   // X1..X7 have cells 0 (objective) to 7
+inline constexpr int kSimplexMax = 7;   // variables, constraints
+inline constexpr int kSimplexRows = 8;  // X1..X7 have cells 0 (objective) to 7
 
 struct SimplexCell {
   std::string text;
@@ -98,8 +98,8 @@ struct SimplexEnd {
 // throws DoesNotEnd once spent (0: no bound).
 SimplexEnd solve(const SimplexFields& f, SimplexResults& screen, long stepBudget = 0);
 Report report(const SimplexFields& f, const SimplexResults& s, const SimplexEnd& end);
-Report forward(const SimplexFields& f, SimplexResults& s);  // "Solución 2"
-Report back(const SimplexFields& f, SimplexResults& s);     // "Solución 1"
+Report forward(const SimplexFields& f, SimplexResults& s);         // "Solución 2"
+Report back(const SimplexFields& f, SimplexResults& s);            // "Solución 1"
 Report printout(const SimplexFields& f, const SimplexResults& s);  // Imprimir
 // A fresh solution screen's activation and its printed page.
 Pages solveAndReport(SimplexFields& f, long stepBudget);
