@@ -57,8 +57,8 @@ public:
   void run() {
     // The nests for two and for three or more rows run inside an outer loop
     // of two and four passes; the later passes meet only ties with what is
-    // kept, and so change nothing.
-    const int passes = N_ <= 1 ? 1 : N_ == 2 ? 2 : 4;
+    // kept, and so change nothing. An empty table has no nest at all.
+    const int passes = N_ == 0 ? 0 : N_ == 1 ? 1 : N_ == 2 ? 2 : 4;
     for (int pass = 0; pass < passes; ++pass) place(0);
   }
 
