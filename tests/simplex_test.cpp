@@ -334,6 +334,32 @@ TEST(SimplexSolve, StepBudgetBoundsThePasses) {
   }
 }
 
+TEST(SimplexSolve, BigMRoundingCanCycleForEver) {
+  // The reduced costs of the two columns are lost in the rounding of terms
+  // of the order of M: each enters in turn, row 6 swaps them for ever.
+  const SimplexFields f =
+      problem(kMax, {"10", "0", "1.5", "1"},
+              {{{"0.5", "-1", "0", "-0.5"}, GE, "1"}, {{"0.5", "4", "-3", "-0.5"}, GE, "5"},
+               {{"7", "0", "1.5", "2.5"}, EQ, "3"}, {{"0", "-2", "-3", "0.5"}, GE, "3"},
+               {{"-0.5", "-1", "-3", "1"}, EQ, "2"}, {{"10", "3", "10", "0.25"}, LE, "1"}});
+  SimplexResults s;
+  EXPECT_THROW(solve(f, s, 10000), DoesNotEnd);
+  std::vector<std::string> seen[2];
+  for (long budget : {4, 5, 6, 7}) {
+    SimplexResults at;
+    EXPECT_THROW(solve(f, at, budget), DoesNotEnd);
+    std::vector<std::string> state = at.base;
+    for (const std::string& v : strs(at.bB)) state.push_back(v);
+    std::vector<std::string>& expected = seen[budget % 2];
+    if (expected.empty())
+      expected = state;
+    else
+      EXPECT_EQ(state, expected) << budget;
+  }
+  EXPECT_EQ(seen[0].at(5), "h6");
+  EXPECT_EQ(seen[1].at(5), "X2");
+}
+
 TEST(SimplexSolve, RunTimeErrorsOfThePlatform) {
   struct Case {
     std::function<void(SimplexFields&)> edit;
