@@ -201,9 +201,12 @@ SimplexEnd solve(const SimplexFields& f, SimplexResults& s, long stepBudget) {
   long passes = 0;
   while (seguir) {
     if (stepBudget > 0 && ++passes > stepBudget) throw DoesNotEnd{};
+    // An overflow anywhere in a sum leaves it infinite or NaN, so one check
+    // at its end raises it as a check at every step would.
     for (int j = 0; j <= ultima; ++j) {
-      z[j] = 0;
-      for (int i = 0; i < m; ++i) z[j] = checked(z[j] + checked(T[i][j] * cB[i]));
+      double sum = 0;
+      for (int i = 0; i < m; ++i) sum += T[i][j] * cB[i];
+      z[j] = checked(sum);
       r[j] = checked(s.cost[j] - z[j]);
     }
     if (!end.alternativa) {
@@ -240,7 +243,7 @@ SimplexEnd solve(const SimplexFields& f, SimplexResults& s, long stepBudget) {
       s.bB[l] = Sng(divide(s.bB[l], p[l]));
       for (int i = 0; i < m; ++i) {
         if (i == l) continue;
-        for (int j = 0; j <= ultima; ++j) T[i][j] = checked(T[i][j] - checked(p[i] * T[l][j]));
+        for (int j = 0; j <= ultima; ++j) T[i][j] = checked(T[i][j] - p[i] * T[l][j]);
         s.bB[i] = Sng(checked(s.bB[i] - checked(double(s.bB[l]) * p[i])));
       }
     }
