@@ -142,9 +142,13 @@ TransportesResults solve(const TransportesFields& f, long stepBudget) {
   }
 
   // Exchanges over rectangles: cells (p, i) and (q, j) give up t units to the
-  // opposite corners (p, j) and (q, i) when that lowers the cost.
+  // opposite corners (p, j) and (q, i) when that lowers the cost. The gain g
+  // is worked out only from a corner (p, i) that ships something, and is
+  // otherwise left as it was: a negative quantity at (p, i) meets the gain of
+  // the last rectangle worked out.
   auto Y = X;
   long steps = 0;
+  double g = 0;
   bool cambio = true;
   while (cambio) {
     cambio = false;
@@ -154,8 +158,7 @@ TransportesResults solve(const TransportesFields& f, long stepBudget) {
           for (int q = 0; q < N; ++q) {
             if (j == i || q == p) continue;
             if (stepBudget > 0 && ++steps > stepBudget) throw DoesNotEnd{};
-            if (!(X[p][i] > 0)) continue;
-            const double g = checked(checked(checked(C[p][j] + C[q][i]) - C[p][i]) - C[q][j]);
+            if (X[p][i] > 0) g = checked(checked(checked(C[p][j] + C[q][i]) - C[p][i]) - C[q][j]);
             if (!(g < 0) || X[p][i] == 0 || X[q][j] == 0) continue;
             if (X[p][i] > X[q][j]) {
               const double t = X[q][j];

@@ -134,6 +134,10 @@ TEST(Transportes, BalancesStartsAtTheCornerAndExchangesOverRectangles) {
       // A negative supply gives a negative quantity, left out of the cost.
       {"negative", problem({{"1", "2"}, {"3", "4"}}, {"-2", "5"}, {"1", "2"}),
        3, 3, 17, false, false, {{-2, 0}, {3, 2}}},
+      // A negative quantity at (p, i) works out no gain of its own and moves
+      // on the gain of the rectangle before it.
+      {"stale gain", problem({{"13", "1", "-4"}, {"12", "2", "4"}}, {"8", "-4"}, {"10", "6", "2"}),
+       4, 18, -2, true, false, {{0, 6, 2}, {-4, 0, 0}, {14, 0, 0}}},
   };
   for (const Solved& c : cases) {
     SCOPED_TRACE(c.name);
@@ -180,7 +184,8 @@ TEST(Transportes, SelectorsNotVisibilityGiveTheDimensions) {
 }
 
 TEST(Transportes, NegativeSuppliesNeverComeToRestAndTheBudgetStopsThem) {
-  const TransportesFields f = problem({{"13", "1", "-4"}, {"12", "2", "4"}}, {"8", "-4"}, {"10", "6", "2"});
+  const TransportesFields f = problem({{"3", "7", "8"}, {"5", "0", "13"}, {"-4", "9", "-4"}},
+                                      {"11", "-5", "12"}, {"-5", "10", "11"});
   EXPECT_THROW(solve(f, 100000), DoesNotEnd);
   EXPECT_THROW(resolver(f), DoesNotEnd);
 }
