@@ -497,14 +497,5 @@ TEST(Colas, ReportLinesFollowTheModel) {
   }
 }
 
-TEST(Colas, ArrivalRateOnTheParameterLineIsTheOneGiven) {
-  ColasFields f = cola(kColaLimitada, 0, "1", "2", "3", "3");
-  const std::string screen = renderText(solveAndReport(f).screen);
-  EXPECT_NE(screen.find("Tasa de llegadas:                          2  Accesos"), std::string::npos);
-  EXPECT_NE(screen.find("Tasa media de llegadas:                                  1.753846 "
-                        "Accesos/unidad de tiempo"),
-            std::string::npos);
-}
-
 }  // namespace
 }  // namespace vorel::queueing
