@@ -1,6 +1,8 @@
 // Every screen of the program, registered by name.
 #include <QtGlobal>
 
+#include "decision/electra1_screens.h"
+#include "decision/incertidumbre_screens.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 #include "inventory/eoq_screens.h"
@@ -14,6 +16,8 @@ void registerAllScreens() {
   initPictures();
   registerMenuScreens();
   inventory::registerScreens();
+  decision::registerElectra1Screens();
+  decision::registerIncertidumbreScreens();
 }
 
 }  // namespace vorel::gui

@@ -1,0 +1,205 @@
+#include "decision/electra1_screens.h"
+
+#include <QFrame>
+#include <QPushButton>
+
+#include "frame/gui/screen.h"
+
+namespace vorel::decision {
+
+namespace {
+const QString kCabeceraBase = QStringLiteral(
+    "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
+    " background-color: %1;");
+}  // namespace
+
+void renameChrome(QWidget& screen, const QString& from, const QString& to) {
+  if (auto* button = screen.findChild<QAbstractButton*>(from)) button->setObjectName(to);
+}
+
+QComboBox* addSelector(QWidget& screen, QGridLayout* grid, int row, const QString& objectName,
+                       const QString& label, int count) {
+  QStringList items;
+  for (int k = 1; k <= count; ++k) items << QString::number(k);
+  auto* combo = gui::newSelector(&screen, items);
+  combo->setObjectName(objectName);
+  combo->setFixedWidth(64);
+  auto* caption = new QLabel(label, &screen);
+  caption->setStyleSheet("font-size: 10pt; color: #1A202C;");
+  caption->setBuddy(combo);
+  grid->addWidget(caption, row, 3);
+  grid->addWidget(combo, row, 4, Qt::AlignLeft);
+  return combo;
+}
+
+QPushButton* redesignButton(QWidget& screen, std::function<void()> handler) {
+  auto* button = new QPushButton("Rediseñar Tabla", &screen);
+  button->setObjectName("RediseñarTabla");
+  button->setCursor(Qt::PointingHandCursor);
+  button->setStyleSheet(
+      "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
+      " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
+      "QPushButton:hover { background: #EDF2F7; }");
+  QObject::connect(button, &QPushButton::clicked, &screen,
+                   [handler = std::move(handler)] { gui::Screen::run(handler); });
+  return button;
+}
+
+QFrame* tableFrame(QWidget& screen) {
+  auto* frame = new QFrame(&screen);
+  frame->setObjectName("tabla");
+  frame->setStyleSheet(
+      "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
+  return frame;
+}
+
+void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
+  table->layout()->setContentsMargins(14, 12, 14, 12);
+  body->insertWidget(body->indexOf(fieldGrid) + 1, table);
+}
+
+void fitToTable(QWidget& screen) {
+  if (auto* layout = screen.layout()) layout->activate();
+  screen.adjustSize();
+}
+
+QColor platformColor(long backColor) {
+  const auto bytes = static_cast<unsigned long>(backColor);
+  return QColor(static_cast<int>(bytes & 0xFF), static_cast<int>((bytes >> 8) & 0xFF),
+                static_cast<int>((bytes >> 16) & 0xFF));
+}
+
+Electra1Entry::Electra1Entry()
+    : ModelEntry("DecisionElectra1", "Electra 1",
+                 "Permite guiar al decisor hacia la elección de una alternativa de entre un "
+                 "conjunto de ellas utilizando criterios de decisión no agregables.",
+                 "Título", "Problema 1") {
+  renameChrome(*this, "volver", "Image6");
+  bindings_.bind(&Electra1Fields::Título, titleField());
+  bindings_.bind(&Electra1Fields::escalaValoracion,
+                 addField("escalaValoracion", "Escala de Valoración", "Escala de valoración"));
+  bindings_.bind(&Electra1Fields::IndiceConcordancia,
+                 addField("IndiceConcordancia", "Límite de Concordancia",
+                          "Índice de concordancia en tanto por uno"));
+  bindings_.bind(&Electra1Fields::IndiceDiscordancia,
+                 addField("IndiceDiscordancia", "Límite de Discordancia",
+                          "Índice de Discordancia en tanto por uno"));
+
+  NumAlternativas_ =
+      addSelector(*this, fieldGrid(), 0, "NumAlternativas", "Número de Alternativas", 6);
+  NumCriterios_ = addSelector(*this, fieldGrid(), 1, "NumCriterios", "Número de Criterios", 7);
+  auto* reshape = redesignButton(*this, [this] { rediseñarTabla(); });
+  fieldGrid()->addWidget(reshape, 2, 3, 1, 2, Qt::AlignLeft);
+  fieldGrid()->setColumnMinimumWidth(2, 24);
+
+  // The table: criteria down the rows, alternatives and then the weights across.
+  auto* frame = tableFrame(*this);
+  auto* grid = new QGridLayout(frame);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(5);
+  LblAlternativas_.create(frame, "LblAlternativas", 0, 6, [](QWidget* parent) {
+    auto* head = gui::newHeading(parent);
+    head->setFixedWidth(96);
+    return head;
+  });
+  LblCriterios_.create(frame, "LblCriterios", 0, 6, gui::newHeading);
+  for (int j = 1; j <= 7; ++j)
+    C_[static_cast<std::size_t>(j - 1)].create(frame, "C" + QString::number(j), 0, 6,
+                                               [](QWidget* parent) {
+                                                 auto* cell = gui::newCell(parent);
+                                                 cell->setFixedWidth(96);
+                                                 return cell;
+                                               });
+  for (int k = 0; k <= 6; ++k) {
+    grid->addWidget(LblAlternativas_(k), 0, k + 1);
+    LblCriterios_(k)->setText("Criterio " + QString::number(k + 1));
+    LblCriterios_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(LblCriterios_(k), k + 1, 0);
+    for (int j = 1; j <= 7; ++j) grid->addWidget(C_[static_cast<std::size_t>(j - 1)](k), k + 1, j);
+  }
+  grid->setColumnStretch(8, 1);
+  placeTable(body(), fieldGrid(), frame);
+
+  setFields(Electra1Fields{});
+}
+
+void Electra1Entry::paintHead(QLabel* head, long backColor) {
+  head->setProperty("BackColor", QVariant::fromValue<qlonglong>(backColor));
+  head->setStyleSheet(kCabeceraBase.arg(platformColor(backColor).name()));
+}
+
+Electra1Fields Electra1Entry::fields() const {
+  Electra1Fields f;
+  bindings_.read(f);
+  f.NumAlternativas = NumAlternativas_->currentIndex();
+  f.NumCriterios = NumCriterios_->currentIndex();
+  for (std::size_t i = 0; i < 7; ++i) {
+    const int row = static_cast<int>(i);
+    for (std::size_t j = 0; j < 7; ++j) {
+      QLineEdit* cell = C_[j](row);
+      f.C[j][i] = {cell->text().toStdString(), !cell->isHidden()};
+    }
+    f.LblCriterios[i] = !LblCriterios_(row)->isHidden();
+    QLabel* head = LblAlternativas_(row);
+    f.LblAlternativas[i] = {!head->isHidden(), head->text().toStdString(),
+                            static_cast<long>(head->property("BackColor").toLongLong())};
+  }
+  return f;
+}
+
+void Electra1Entry::setFields(const Electra1Fields& f) {
+  bindings_.write(f);
+  NumAlternativas_->setCurrentIndex(f.NumAlternativas);
+  NumCriterios_->setCurrentIndex(f.NumCriterios);
+  for (std::size_t i = 0; i < 7; ++i) {
+    const int row = static_cast<int>(i);
+    for (std::size_t j = 0; j < 7; ++j) {
+      QLineEdit* cell = C_[j](row);
+      cell->setText(QString::fromStdString(f.C[j][i].text));
+      cell->setVisible(f.C[j][i].visible);
+    }
+    LblCriterios_(row)->setVisible(f.LblCriterios[i]);
+    const auto& head = f.LblAlternativas[i];
+    QLabel* label = LblAlternativas_(row);
+    label->setText(QString::fromStdString(head.caption));
+    paintHead(label, head.BackColor);
+    label->setVisible(head.visible);
+  }
+}
+
+void Electra1Entry::nuevo() {
+  Electra1Fields f = fields();
+  decision::nuevo(f);
+  setFields(f);
+  fitToTable(*this);
+}
+
+void Electra1Entry::rediseñarTabla() {
+  Electra1Fields f = fields();
+  if (!tell(rediseñar(f))) return;
+  setFields(f);
+  fitToTable(*this);
+  C_[0](0)->setFocus();
+}
+
+Electra1Solution::Electra1Solution()
+    : SolutionScreen("DecisionElectra1_solucion", "Electra 1", 92, 50) {}
+
+Pages Electra1Solution::compute() {
+  const Electra1Fields f = entry<Electra1Entry>().fields();
+  results_ = solve(f);
+  return {report(f, results_), printout(f, results_)};
+}
+
+void Electra1Solution::imprimir() {
+  gui::platform().printerDialog();
+  gui::printReport(printout(entry<Electra1Entry>().fields(), results_));
+}
+
+void registerElectra1Screens() {
+  gui::Screens& screens = gui::Screens::instance();
+  screens.add("DecisionElectra1", [] { return new Electra1Entry(); });
+  screens.add("DecisionElectra1_solucion", [] { return new Electra1Solution(); });
+}
+
+}  // namespace vorel::decision
