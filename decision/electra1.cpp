@@ -69,22 +69,13 @@ void cuerpo(Report& out, const Electra1Fields& f, const Electra1Results& r,
 
 Electra1Fields::Electra1Fields() { aplicarForma(*this, 4, 4); }
 
-std::string comboText(int listIndex) {
-  return listIndex < 0 ? std::string() : std::to_string(listIndex + 1);
-}
-
-double comboNumber(const std::string& text) {
-  if (!IsNumeric(text)) raise(err::TypeMismatch);
-  return Val(text);
-}
-
 Messages rediseñar(Electra1Fields& f) {
-  const std::string alternativas = comboText(f.NumAlternativas);
-  const std::string criterios = comboText(f.NumCriterios);
+  const std::string alternativas = selectorText(f.NumAlternativas, kMaxAlternativasElectra);
+  const std::string criterios = selectorText(f.NumCriterios, kMaxCriterios);
   if (alternativas.empty()) return {{"Seleccione el número de Alternativas", ""}};
   if (criterios.empty()) return {{"Seleccione el número de Criterios", ""}};
-  aplicarForma(f, static_cast<int>(comboNumber(alternativas)),
-               static_cast<int>(comboNumber(criterios)));
+  aplicarForma(f, static_cast<int>(CDbl(alternativas)),
+               static_cast<int>(CDbl(criterios)));
   return {};
 }
 
@@ -156,10 +147,10 @@ Messages check(const Electra1Fields& f) {
 
 Electra1Results solve(const Electra1Fields& f) {
   Electra1Results r;
-  r.NumAlt = comboText(f.NumAlternativas);
-  r.NumCrit = comboText(f.NumCriterios);
-  r.na = static_cast<int>(comboNumber(r.NumAlt));
-  r.nc = static_cast<int>(comboNumber(r.NumCrit));
+  r.NumAlt = selectorText(f.NumAlternativas, kMaxAlternativasElectra);
+  r.NumCrit = selectorText(f.NumCriterios, kMaxCriterios);
+  r.na = static_cast<int>(CDbl(r.NumAlt));
+  r.nc = static_cast<int>(CDbl(r.NumCrit));
   r.LimiteConcordancia = Val(f.IndiceConcordancia);
   r.LimiteDiscordancia = Val(f.IndiceDiscordancia);
   const double E = Val(f.escalaValoracion);
@@ -256,19 +247,10 @@ void longItem(ProblemFile& file, long& value) {
   value = static_cast<long>(number);
 }
 
-void listIndexItem(ProblemFile& file, int& listIndex, int count) {
-  int read = listIndex;
-  file.number(read);
-  if (file.reading()) {
-    if (read < -1 || read >= count) throw ReadFailed{};
-    listIndex = read;
-  }
-}
-
 void exchange(ProblemFile& file, Electra1Fields& f) {
   file.text(f.Título);
-  listIndexItem(file, f.NumCriterios, kMaxCriterios);
-  listIndexItem(file, f.NumAlternativas, kMaxAlternativasElectra);
+  file.listIndex(f.NumCriterios, kMaxCriterios);
+  file.listIndex(f.NumAlternativas, kMaxAlternativasElectra);
   file.text(f.escalaValoracion);
   file.text(f.IndiceConcordancia);
   file.text(f.IndiceDiscordancia);

@@ -57,12 +57,6 @@ struct Electra1Results {
   Integer NumSobreclasificadas, NumNucleo;
 };
 
-// The text a combo shows for a list index: "" when nothing is selected.
-std::string comboText(int listIndex);
-// A combo's text used as a number, as a variant holding text is: a text that
-// is not a number is a type mismatch (error 13).
-double comboNumber(const std::string& text);
-
 Messages rediseñar(Electra1Fields& f);  // RediseñarTabla
 void nuevo(Electra1Fields& f);
 Messages check(const Electra1Fields& f);  // Resolver: the first failure, or none
@@ -75,8 +69,5 @@ void exchange(ProblemFile& file, Electra1Fields& f);  // guardar and abrir
 // A Long item of a problem file (a colour): bare digits written, a whole
 // number read; a text that is no number, or beyond 32 bits, fails the read.
 void longItem(ProblemFile& file, long& value);
-// A combo's list index read from a file: an index the combo does not have
-// fails the read and leaves the combo as it was.
-void listIndexItem(ProblemFile& file, int& listIndex, int count);
 
 }  // namespace vorel::decision

@@ -1,6 +1,5 @@
 #include "decision/incertidumbre.h"
 
-#include "decision/electra1.h"  // comboText, comboNumber, listIndexItem
 #include "frame/arith.h"
 
 namespace vorel::decision {
@@ -142,12 +141,12 @@ void lineasHurwicz(Report& out, const IncertidumbreResults& r, const std::string
 IncertidumbreFields::IncertidumbreFields() { aplicarForma(*this, 4, 4); }
 
 Messages rediseñar(IncertidumbreFields& f) {
-  const std::string estados = comboText(f.NumEstados);
-  const std::string alternativas = comboText(f.NumAlternativas);
+  const std::string estados = selectorText(f.NumEstados, kMaxEstados);
+  const std::string alternativas = selectorText(f.NumAlternativas, kMaxAlternativas);
   if (estados.empty()) return {{"Seleccione el número de estados", ""}};
   if (alternativas.empty()) return {{"Seleccione el número de alternativas", ""}};
-  aplicarForma(f, static_cast<int>(comboNumber(alternativas)),
-               static_cast<int>(comboNumber(estados)));
+  aplicarForma(f, static_cast<int>(CDbl(alternativas)),
+               static_cast<int>(CDbl(estados)));
   return {};
 }
 
@@ -195,10 +194,10 @@ Messages check(const IncertidumbreFields& f) {
 
 IncertidumbreResults solve(const IncertidumbreFields& f) {
   IncertidumbreResults r;
-  r.NumAlt = comboText(f.NumAlternativas);
-  r.NumEst = comboText(f.NumEstados);
-  r.na = static_cast<int>(comboNumber(r.NumAlt));
-  r.ne = static_cast<int>(comboNumber(r.NumEst));
+  r.NumAlt = selectorText(f.NumAlternativas, kMaxAlternativas);
+  r.NumEst = selectorText(f.NumEstados, kMaxEstados);
+  r.na = static_cast<int>(CDbl(r.NumAlt));
+  r.ne = static_cast<int>(CDbl(r.NumEst));
   const int na = r.na, ne = r.ne;
   // Resultado(s, a): the text of the cell of state s for alternative a, read with Val.
   auto Resultado = [&](int s, int a) { return Val(item(item(f.C, s), a).text); };
@@ -372,8 +371,8 @@ Pages solveAndReport(IncertidumbreFields& f) {
 
 void exchange(ProblemFile& file, IncertidumbreFields& f) {
   file.text(f.Título);
-  listIndexItem(file, f.NumEstados, kMaxEstados);
-  listIndexItem(file, f.NumAlternativas, kMaxAlternativas);
+  file.listIndex(f.NumEstados, kMaxEstados);
+  file.listIndex(f.NumAlternativas, kMaxAlternativas);
   file.text(f.Alfa);
   for (std::size_t i = 0; i < 7; ++i) {
     file.flag(f.LblEstados[i]);

@@ -153,6 +153,22 @@ bool IsNumeric(std::string_view text, char decimalMark) {
   return true;
 }
 
+double CDbl(std::string_view text) {
+  if (!IsNumeric(text)) raise(err::TypeMismatch);
+  // The locale's decimal mark counts here, unlike in Val; group marks are dropped.
+  const char mark = localeDecimalMark(), group = mark == ',' ? '.' : ',';
+  std::string canonical;
+  for (char c : text) {
+    if (c == group) continue;
+    canonical += c == mark ? '.' : c;
+  }
+  return Val(canonical);
+}
+
+std::string selectorText(int listIndex, int count) {
+  return listIndex >= 0 && listIndex < count ? std::to_string(listIndex + 1) : std::string();
+}
+
 namespace {
 std::string format(double x, int precision) {
   if (x == 0) return " 0";

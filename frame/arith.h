@@ -45,6 +45,14 @@ void setLocaleDecimalMark(char mark);
 bool IsNumeric(std::string_view text);
 bool IsNumeric(std::string_view text, char decimalMark);
 
+// A text used where a number is needed, as the platform converts it: a text
+// that is not numeric is a type mismatch (error 13).
+double CDbl(std::string_view text);
+
+// The text of a selector whose items are "1", "2"... for a list index: empty
+// when nothing is selected or the index is beyond its `count` items.
+std::string selectorText(int listIndex, int count);
+
 // Text of a number: a leading blank unless negative, 7 (Single) or 15
 // (Double) significant digits in the shortest form.
 std::string Str(float x);

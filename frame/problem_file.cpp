@@ -167,6 +167,14 @@ void ProblemFile::number(int& wholeNumber) {
   }
 }
 
+void ProblemFile::listIndex(int& index, int count) {
+  int read = index;
+  number(read);
+  if (!reading_) return;
+  if (read < -1 || read >= count) throw ReadFailed{};
+  index = read;
+}
+
 namespace {
 
 // The files written in this process, kept open as the platform kept them.

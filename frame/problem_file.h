@@ -24,6 +24,9 @@ public:
   void text(std::string& field);
   void flag(bool& value);
   void number(int& wholeNumber);  // a list index and the like, 16-bit
+  // A selector's list index: an index the list does not have (outside
+  // -1..count-1) fails the read and leaves the selector as it was.
+  void listIndex(int& index, int count);
 
   // The items written so far, as the bytes of the file.
   const std::string& bytes() const { return data_; }

@@ -13,21 +13,8 @@ const std::string kFueraDeRango =
     "9999999";
 
 // A combo's text taken as a number: an empty combo is a type mismatch.
-int numeroCombo(int listIndex) {
-  const std::string text = textoCombo(listIndex);
-  if (!IsNumeric(text)) raise(err::TypeMismatch);
-  return static_cast<int>(Val(text));
-}
+int numeroCombo(int listIndex) { return static_cast<int>(CDbl(textoCombo(listIndex))); }
 
-// A list index read from the file: an index the combo does not have fails the
-// read and leaves the combo as it was.
-void indiceCombo(ProblemFile& file, int& listIndex) {
-  int value = listIndex;
-  file.number(value);
-  if (!file.reading()) return;
-  if (value < -1 || value >= kMaxEstrategias) throw ReadFailed{};
-  listIndex = value;
-}
 
 double& celda(Tabla& t, int a, int b) { return item(item(t, a), b); }
 
@@ -113,7 +100,7 @@ const JuegosNFields::Celdas& JuegosNFields::array(int k) const {
 }
 
 std::string textoCombo(int listIndex) {
-  return listIndex < 0 ? std::string() : std::to_string(listIndex + 1);
+  return selectorText(listIndex, kMaxEstrategias);
 }
 
 void rediseñar(JuegosNFields& f) {
@@ -265,8 +252,8 @@ Pages solveAndReport(JuegosNFields& f) {
 
 void exchange(ProblemFile& file, JuegosNFields& f) {
   file.text(f.Título);
-  indiceCombo(file, f.NDecA);
-  indiceCombo(file, f.NDecB);
+  file.listIndex(f.NDecA, kMaxEstrategias);
+  file.listIndex(f.NDecB, kMaxEstrategias);
   for (int i = 0; i < kMaxEstrategias; ++i) {
     file.flag(item(f.A, i));
     file.flag(item(f.B, i));

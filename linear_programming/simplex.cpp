@@ -422,22 +422,11 @@ Pages solveAndReport(SimplexFields& f, long stepBudget) {
   return {report(f, s, end), printout(f, s)};
 }
 
-namespace {
-// A list index read from a file must name an item of the list (or none, -1);
-// any other value is refused as the combo box refuses it.
-void listIndex(ProblemFile& file, int& index, int items) {
-  int value = index;
-  file.number(value);
-  if (file.reading() && (value < -1 || value >= items)) throw ReadFailed{};
-  index = value;
-}
-}  // namespace
-
 void exchange(ProblemFile& file, SimplexFields& f) {
   file.text(f.Título);
-  listIndex(file, f.funcionObjetivo, int(kFuncionObjetivoItems.size()));
-  listIndex(file, f.Numrestricciones, kSimplexMax);
-  listIndex(file, f.NumFactores, kSimplexMax);
+  file.listIndex(f.funcionObjetivo, int(kFuncionObjetivoItems.size()));
+  file.listIndex(f.Numrestricciones, kSimplexMax);
+  file.listIndex(f.NumFactores, kSimplexMax);
   for (int i = 0; i < kSimplexMax; ++i) {
     file.flag(f.LblFactores[i]);
     file.flag(f.Lblrestriccion[i]);
@@ -449,7 +438,7 @@ void exchange(ProblemFile& file, SimplexFields& f) {
     }
   }
   for (SimplexRelation& r : f.restriccion) {
-    listIndex(file, r.ListIndex, int(kRestriccionItems.size()));
+    file.listIndex(r.ListIndex, int(kRestriccionItems.size()));
     file.flag(r.visible);
   }
   for (int i = 1; i < kSimplexRows; ++i) {

@@ -403,13 +403,8 @@ void exchange(ProblemFile& file, ColasFields& f) {
   file.flag(f.LblVarEnabled);
   file.flag(f.VarTSEnabled);
   file.text(f.VarTS);
-  int indice = f.Servicios;
-  file.number(indice);
-  if (file.reading()) {
-    if (indice < -1 || indice >= static_cast<int>(kServicios.size())) throw ReadFailed{};
-    f.Servicios = indice;
-    serviciosClick(f);
-  }
+  file.listIndex(f.Servicios, static_cast<int>(kServicios.size()));
+  if (file.reading()) serviciosClick(f);
   file.flag(f.ServiciosEnabled);
 }
 

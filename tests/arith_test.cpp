@@ -80,6 +80,21 @@ TEST(IsNumeric, FollowsTheLocaleDecimalMark) {
   EXPECT_FALSE(IsNumeric("1.234,5"));
 }
 
+TEST(CDbl, ConvertsInTheLocaleOrFailsWithTypeMismatch) {
+  setLocaleDecimalMark(',');
+  EXPECT_DOUBLE_EQ(CDbl("2,5"), 2.5);
+  EXPECT_DOUBLE_EQ(CDbl("1.234,5"), 1234.5);
+  EXPECT_EQ(errorOf([] { CDbl(""); }), err::TypeMismatch);
+  setLocaleDecimalMark('.');
+  EXPECT_DOUBLE_EQ(CDbl(" 7 "), 7);
+  EXPECT_DOUBLE_EQ(CDbl("1,234.5"), 1234.5);
+  EXPECT_EQ(errorOf([] { CDbl("siete"); }), err::TypeMismatch);
+  EXPECT_EQ(selectorText(0, 7), "1");
+  EXPECT_EQ(selectorText(6, 7), "7");
+  EXPECT_EQ(selectorText(-1, 7), "");
+  EXPECT_EQ(selectorText(7, 7), "");
+}
+
 TEST(Integer, SixteenBitArithmeticOverflows) {
   Integer i = 32767;
   EXPECT_EQ(errorOf([&] { i + 1; }), err::Overflow);

@@ -4,8 +4,11 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QTest>
 
 #include "frame/gui/menus.h"
+#include "frame/gui/model_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/navigation.h"
 #include "tests/gui_support.h"
@@ -188,6 +191,27 @@ TEST_F(FrameTest, HelpOpensTheFileBesideTheProgram) {
   ASSERT_EQ(platform.helpStarted.size(), 1u);
   EXPECT_TRUE(platform.helpStarted[0].endsWith("/VorelAyuda.hlp"));
   EXPECT_TRUE(platform.helpStarted[0].startsWith(QCoreApplication::applicationDirPath()));
+}
+
+TEST_F(FrameTest, EveryBadCellIsToldWithFocusMovingToIt) {
+  auto* entry = dynamic_cast<gui::EntryScreen*>(screens().show("GI_CantidadEconómicaPedido"));
+  ASSERT_NE(entry, nullptr);
+  EXPECT_FALSE(entry->tell({{"primera", "D"}, {"sin foco", ""}, {"segunda", "E"}}));
+  EXPECT_EQ(platform.messages, (std::vector<std::string>{"primera", "sin foco", "segunda"}));
+  EXPECT_EQ(QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "", "E");
+  EXPECT_TRUE(entry->tell({}));
+}
+
+TEST_F(FrameTest, ABorderlessWindowIsDraggedByItsBackground) {
+  gui::Screen* menu = screens().show("ProgramaciónLineal");
+  EXPECT_TRUE(menu->windowFlags() & Qt::FramelessWindowHint);
+  const QPoint before = menu->pos();
+  QTest::mousePress(menu, Qt::LeftButton, {}, QPoint(200, 70));
+  QMouseEvent move(QEvent::MouseMove, QPointF(260, 110), menu->mapToGlobal(QPointF(260, 110)),
+                   Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(menu, &move);
+  QTest::mouseRelease(menu, Qt::LeftButton, {}, QPoint(260, 110));
+  EXPECT_EQ(menu->pos(), before + QPoint(60, 40));
 }
 
 Report sampleReport(const std::string& marker) {

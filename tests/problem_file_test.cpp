@@ -126,6 +126,17 @@ TEST_F(ProblemFileTest, WholeNumbersConvertToSixteenBits) {
   }
 }
 
+TEST_F(ProblemFileTest, AListIndexTheSelectorLacksEndsTheRead) {
+  ProblemFile f = ProblemFile::forReading("3\r\n-1\r\n7\r\n");
+  int index = 5;
+  f.listIndex(index, 7);
+  EXPECT_EQ(index, 3);
+  f.listIndex(index, 7);
+  EXPECT_EQ(index, -1);
+  EXPECT_THROW(f.listIndex(index, 7), ReadFailed);
+  EXPECT_EQ(index, -1);
+}
+
 TEST(Windows1252, MapsTheHighRangeBothWays) {
   const std::string utf8 = "€ “ñ” — Á";
   const std::string cp = toWindows1252(utf8);
