@@ -145,7 +145,8 @@ TransportesResults solve(const TransportesFields& f, long stepBudget) {
   // opposite corners (p, j) and (q, i) when that lowers the cost. The gain g
   // is worked out only from a corner (p, i) that ships something, and is
   // otherwise left as it was: a negative quantity at (p, i) meets the gain of
-  // the last rectangle worked out.
+  // the last rectangle worked out. A step is one corner (p, i) set against
+  // all the others.
   auto Y = X;
   long steps = 0;
   double g = 0;
@@ -153,12 +154,13 @@ TransportesResults solve(const TransportesFields& f, long stepBudget) {
   while (cambio) {
     cambio = false;
     for (int i = 0; i < M; ++i)
-      for (int p = 0; p < N; ++p)
+      for (int p = 0; p < N; ++p) {
+        if (stepBudget > 0 && ++steps > stepBudget) throw DoesNotEnd{};
         for (int j = 0; j < M; ++j)
           for (int q = 0; q < N; ++q) {
             if (j == i || q == p) continue;
-            if (stepBudget > 0 && ++steps > stepBudget) throw DoesNotEnd{};
-            if (X[p][i] > 0) g = checked(checked(checked(C[p][j] + C[q][i]) - C[p][i]) - C[q][j]);
+            // Once out of range a partial sum stays infinite: one test covers the three.
+            if (X[p][i] > 0) g = checked(C[p][j] + C[q][i] - C[p][i] - C[q][j]);
             if (!(g < 0) || X[p][i] == 0 || X[q][j] == 0) continue;
             if (X[p][i] > X[q][j]) {
               const double t = X[q][j];
@@ -174,6 +176,7 @@ TransportesResults solve(const TransportesFields& f, long stepBudget) {
               X[p][i] = 0;
             }
           }
+      }
     if (X != Y) {
       cambio = true;
       Y = X;

@@ -61,8 +61,10 @@ struct TransportesResults {
   std::array<std::array<double, kTransportesArrays>, kTransportesArrays> X{};  // X[row][column]
 };
 
-// The solution screen's activation. `stepBudget` bounds the improvement (the
-// number of rectangles tried) and throws DoesNotEnd once spent; 0 is no bound.
+// The solution screen's activation. The improvement may never come to rest
+// (negative supplies or demands): `stepBudget` bounds its steps, each one
+// corner set against all the others, and throws DoesNotEnd once spent; 0 is
+// no bound, as on the desktop.
 TransportesResults solve(const TransportesFields& f, long stepBudget = 0);
 Report report(const TransportesFields& f, const TransportesResults& r);    // Solucion1
 Report printout(const TransportesFields& f, const TransportesResults& r);  // Imprimir
