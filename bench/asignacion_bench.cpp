@@ -14,7 +14,8 @@ vorel::linear_programming::AsignacionFields sevenBySeven(bool allEqual) {
   f.NumTareas = 6;
   vorel::linear_programming::rediseñar(f);
   for (int i = 0; i < 7; ++i)
-    for (int j = 0; j < 7; ++j) f.C[j][i].text = allEqual ? "5" : std::to_string((i * 7 + j * 3) % 11 + 1);
+    for (int j = 0; j < 7; ++j)
+      f.C[j][i].text = allEqual ? "5" : std::to_string((i * 7 + j * 3) % 11 + 1);
   return f;
 }
 

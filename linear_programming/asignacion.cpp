@@ -50,7 +50,7 @@ const char* notNumeric(int column) {
 // Every permutation of the columns, row by row with the lowest free column
 // first, so in lexical order; the cheapest are kept, up to three.
 class Enumeracion {
-public:
+ public:
   Enumeracion(const std::array<std::array<double, kMax>, kMax>& coste, int N, AsignacionResults& r)
       : coste_(coste), N_(N), r_(r) {}
 
@@ -62,7 +62,7 @@ public:
     for (int pass = 0; pass < passes; ++pass) place(0);
   }
 
-private:
+ private:
   void place(int row) {
     if (row == N_) {
       visit();

@@ -205,8 +205,8 @@ void body(Report& out, const TransportesFields& f, const TransportesResults& r) 
   for (int a = 0; a < r.m; ++a)
     for (int b = 0; b < r.n; ++b)
       if (r.X[a][b] != 0)
-        out.line(Z, "Origen" + printed(double(a + 1)) + "-Destino" + printed(double(b + 1)), Z,
-                 Z, Str(r.X[a][b]));
+        out.line(Z, "Origen" + printed(double(a + 1)) + "-Destino" + printed(double(b + 1)), Z, Z,
+                 Str(r.X[a][b]));
   if (r.origenFicticio) {
     out.line(Z, " ");
     out.line(Z, "DEMANDAS INSATISFECHAS");

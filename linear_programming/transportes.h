@@ -32,7 +32,7 @@ struct TransportesFields {
   TransportesFields();  // Form_Load: two origins, two destinations
 
   std::string Título = "Problema 1";
-  int NumOrigen = 1;   // list index of "1".."7"; -1 when nothing is chosen
+  int NumOrigen = 1;  // list index of "1".."7"; -1 when nothing is chosen
   int NumDestino = 1;
   std::array<std::array<TransportesCell, kTransportesArrays>, kTransportesArrays> C;
   std::array<TransportesLabel, kTransportesArrays> LblOrigen, LblDestino;

@@ -1,3 +1,5 @@
+#include "linear_programming/asignacion.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,7 +8,6 @@
 #include <vector>
 
 #include "frame/arith.h"
-#include "linear_programming/asignacion.h"
 
 namespace vorel::linear_programming {
 namespace {
@@ -89,14 +90,22 @@ TEST(Asignacion, KeepsUpToThreeCheapestInLexicalOrder) {
     double minimo;
     std::vector<std::vector<int>> sols;
   } cases[] = {
-      {"all equal", {{"4", "4", "4"}, {"4", "4", "4"}, {"4", "4", "4"}}, 3, 12,
+      {"all equal",
+       {{"4", "4", "4"}, {"4", "4", "4"}, {"4", "4", "4"}},
+       3,
+       12,
        {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}}},
-      {"two optima", {{"5", "3", "4"}, {"3", "5", "4"}, {"4", "4", "9"}}, 2, 11,
+      {"two optima",
+       {{"5", "3", "4"}, {"3", "5", "4"}, {"4", "4", "9"}},
+       2,
+       11,
        {{1, 2, 0}, {2, 0, 1}}},
       // Ties at 2 fill the three tables; the last permutation, at 0, clears them.
       {"ties then lower",
        {{"1", "1", "1", "0"}, {"1", "1", "0", "1"}, {"1", "0", "1", "1"}, {"0", "1", "1", "1"}},
-       1, 0, {{3, 2, 1, 0}}},
+       1,
+       0,
+       {{3, 2, 1, 0}}},
       {"one", {{"7"}}, 1, 7, {{0}}},
       {"negative", {{"-5", "2"}, {"3", "-1"}}, 1, -6, {{0, 1}}},
       // Three individuals, two tasks: the added column is "Sin tarea".
@@ -149,7 +158,10 @@ TEST(Asignacion, AgreesWithAnOrderedSearchOnRandomTables) {
 }
 
 TEST(Asignacion, OnlyTheMovesThatExistAreOffered) {
-  struct Case { int count, page; AsignacionComandos offered; } cases[] = {
+  struct Case {
+    int count, page;
+    AsignacionComandos offered;
+  } cases[] = {
       {0, 1, {}},
       {1, 1, {}},
       {2, 1, {.forward1 = true}},
@@ -163,13 +175,16 @@ TEST(Asignacion, OnlyTheMovesThatExistAreOffered) {
 }
 
 const std::string kBlank = "               \n";
-std::string head(const std::string& title, const std::string& individuos,
-                 const std::string& tareas, const std::string& count) {
-  return "              Solución al problema:  " + title + "\n"
-         "              " + std::string(74, '_') + "  \n" + kBlank +
-         "              Número de individuos:                     " + individuos + "\n"
-         "              Número de tareas:                         " + tareas + "\n" + kBlank +
-         "              " + std::string(74, '_') + "  \n" + kBlank +
+std::string head(const std::string& title, const std::string& individuos, const std::string& tareas,
+                 const std::string& count) {
+  return "              Solución al problema:  " + title +
+         "\n"
+         "              " +
+         std::string(74, '_') + "  \n" + kBlank +
+         "              Número de individuos:                     " + individuos +
+         "\n"
+         "              Número de tareas:                         " +
+         tareas + "\n" + kBlank + "              " + std::string(74, '_') + "  \n" + kBlank +
          "              Número de soluciones:       " + count + "\n" + kBlank;
 }
 
@@ -191,15 +206,16 @@ TEST(Asignacion, BrowsingRepaintsOneSolutionPerPage) {
   const std::string total = "              Coste Total:                 12 unidades monetarias\n";
   std::string page;
   for (int k = 1; k <= 3; ++k) {
-    const std::string block = "              SOLUCIÓN " + std::to_string(k) + "\n" + kBlank + lists[k - 1] + kBlank;
+    const std::string block =
+        "              SOLUCIÓN " + std::to_string(k) + "\n" + kBlank + lists[k - 1] + kBlank;
     EXPECT_EQ(renderText(report(f, r, k)),
               kBlank + kBlank + kBlank + head("Iguales", "3", "3", " 3") + block + total);
     page += block;
   }
   EXPECT_EQ(renderText(printout(f, r)),
             kBlank + kBlank + kBlank + kBlank + kBlank +
-                "                            PROBLEMA DE ASIGNACIÓN \n" + kBlank + kBlank +
-                kBlank + kBlank + kBlank + head("Iguales", "3", "3", " 3") + page + total);
+                "                            PROBLEMA DE ASIGNACIÓN \n" + kBlank + kBlank + kBlank +
+                kBlank + kBlank + head("Iguales", "3", "3", " 3") + page + total);
 }
 
 TEST(Asignacion, EmptySelectorsFromAFileGiveNoSolution) {
@@ -215,10 +231,12 @@ TEST(Asignacion, EmptySelectorsFromAFileGiveNoSolution) {
 
 TEST(Asignacion, HugeCellsOverflow) {
   AsignacionFields f = problem({{"1.7e308", "2"}, {"3", "1.7e308"}});
-  EXPECT_THROW(try { solve(f); } catch (const RuntimeError& e) {
-    EXPECT_EQ(e.number(), err::Overflow);
-    throw;
-  }, RuntimeError);
+  EXPECT_THROW(
+      try { solve(f); } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), err::Overflow);
+        throw;
+      },
+      RuntimeError);
 }
 
 TEST(Asignacion, FileRoundTripsAndABadListIndexEndsTheRead) {

@@ -1,10 +1,11 @@
+#include "linear_programming/transportes.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <vector>
 
 #include "frame/arith.h"
-#include "linear_programming/transportes.h"
 
 namespace vorel::linear_programming {
 namespace {
@@ -42,7 +43,10 @@ TEST(Transportes, FormLoadShowsTwoByTwoWithSupplyColumnAndDemandRow) {
 }
 
 TEST(Transportes, RediseñarRefusesEmptySelectorsAndReshapesTheTable) {
-  struct Case { int origen, destino; const char* message; } cases[] = {
+  struct Case {
+    int origen, destino;
+    const char* message;
+  } cases[] = {
       {-1, 3, "Introduzca el Número de Orígenes"},
       {-1, -1, "Introduzca el Número de Orígenes"},
       {4, -1, "Introduzca el Número de Destinos"},
@@ -68,7 +72,8 @@ TEST(Transportes, RediseñarRefusesEmptySelectorsAndReshapesTheTable) {
     for (int i = 0; i < 8; ++i)
       for (int j = 0; j < 8; ++j)
         EXPECT_EQ(f.C[j][i].visible, (i < rows && j <= cols) || (i == rows && j < cols));
-    for (int k = 0; k < rows; ++k) EXPECT_EQ(f.LblOrigen[k].caption, "Origen " + std::to_string(k + 1));
+    for (int k = 0; k < rows; ++k)
+      EXPECT_EQ(f.LblOrigen[k].caption, "Origen " + std::to_string(k + 1));
     EXPECT_EQ(f.LblOrigen[rows].caption, "Demandas");
     EXPECT_EQ(f.LblDestino[cols].caption, "Existencias");
     EXPECT_EQ(f.LblDestino[cols - 1].caption, "Destino " + std::to_string(cols));
@@ -112,32 +117,74 @@ struct Solved {
 TEST(Transportes, BalancesStartsAtTheCornerAndExchangesOverRectangles) {
   const Solved cases[] = {
       // Balanced; the corner costs 520 and the rectangles reach 435.
-      {"balanced", problem({{"10", "2", "20", "11"}, {"12", "7", "9", "20"}, {"4", "14", "16", "18"}},
-                           {"15", "25", "10"}, {"5", "15", "15", "15"}),
-       50, 50, 435, false, false, {{0, 5, 0, 10}, {0, 10, 15, 0}, {5, 0, 0, 5}}},
+      {"balanced",
+       problem({{"10", "2", "20", "11"}, {"12", "7", "9", "20"}, {"4", "14", "16", "18"}},
+               {"15", "25", "10"}, {"5", "15", "15", "15"}),
+       50,
+       50,
+       435,
+       false,
+       false,
+       {{0, 5, 0, 10}, {0, 10, 15, 0}, {5, 0, 0, 5}}},
       // Supplies above demands: the extra column takes 20 at no cost. Moving
       // 20 more into it would save 60, but the two corners hold 20 each and
       // equal corners are never exchanged: the result stops at 510, not 450.
-      {"excess", problem({{"4", "6", "9"}, {"5", "3", "8"}}, {"70", "50"}, {"30", "50", "20"}),
-       120, 100, 510, false, true, {{30, 20, 20, 0}, {0, 30, 0, 20}}},
+      {"excess",
+       problem({{"4", "6", "9"}, {"5", "3", "8"}}, {"70", "50"}, {"30", "50", "20"}),
+       120,
+       100,
+       510,
+       false,
+       true,
+       {{30, 20, 20, 0}, {0, 30, 0, 20}}},
       // Demands above supplies: a fictitious origin with the 30 missing.
-      {"shortage", problem({{"8", "6", "10"}, {"9", "12", "13"}, {"14", "9", "16"}},
-                           {"30", "40", "20"}, {"40", "35", "45"}),
-       90, 120, 855, true, false, {{15, 0, 15}, {25, 15, 0}, {0, 20, 0}, {0, 0, 30}}},
+      {"shortage",
+       problem({{"8", "6", "10"}, {"9", "12", "13"}, {"14", "9", "16"}}, {"30", "40", "20"},
+               {"40", "35", "45"}),
+       90,
+       120,
+       855,
+       true,
+       false,
+       {{15, 0, 15}, {25, 15, 0}, {0, 20, 0}, {0, 0, 30}}},
       // Equal costs: no exchange gains, the corner stays.
-      {"equal", problem({{"5", "5"}, {"5", "5"}}, {"4", "6"}, {"7", "3"}),
-       10, 10, 50, false, false, {{4, 0}, {3, 3}}},
+      {"equal",
+       problem({{"5", "5"}, {"5", "5"}}, {"4", "6"}, {"7", "3"}),
+       10,
+       10,
+       50,
+       false,
+       false,
+       {{4, 0}, {3, 3}}},
       // Decimals and a negative cost; Val stops at the comma of "2,5", and
       // the one rectangle that would pay has an empty corner.
-      {"val", problem({{"-1", "2,5"}, {"3.5", "1"}}, {"1.5", "2"}, {"2", "1.5"}),
-       3.5, 3.5, 1.75, false, false, {{1.5, 0}, {0.5, 1.5}}},
+      {"val",
+       problem({{"-1", "2,5"}, {"3.5", "1"}}, {"1.5", "2"}, {"2", "1.5"}),
+       3.5,
+       3.5,
+       1.75,
+       false,
+       false,
+       {{1.5, 0}, {0.5, 1.5}}},
       // A negative supply gives a negative quantity, left out of the cost.
-      {"negative", problem({{"1", "2"}, {"3", "4"}}, {"-2", "5"}, {"1", "2"}),
-       3, 3, 17, false, false, {{-2, 0}, {3, 2}}},
+      {"negative",
+       problem({{"1", "2"}, {"3", "4"}}, {"-2", "5"}, {"1", "2"}),
+       3,
+       3,
+       17,
+       false,
+       false,
+       {{-2, 0}, {3, 2}}},
       // A negative quantity at (p, i) works out no gain of its own and moves
       // on the gain of the rectangle before it.
-      {"stale gain", problem({{"13", "1", "-4"}, {"12", "2", "4"}}, {"8", "-4"}, {"10", "6", "2"}),
-       4, 18, -2, true, false, {{0, 6, 2}, {-4, 0, 0}, {14, 0, 0}}},
+      {"stale gain",
+       problem({{"13", "1", "-4"}, {"12", "2", "4"}}, {"8", "-4"}, {"10", "6", "2"}),
+       4,
+       18,
+       -2,
+       true,
+       false,
+       {{0, 6, 2}, {-4, 0, 0}, {14, 0, 0}}},
   };
   for (const Solved& c : cases) {
     SCOPED_TRACE(c.name);
@@ -192,10 +239,12 @@ TEST(Transportes, NegativeSuppliesNeverComeToRestAndTheBudgetStopsThem) {
 
 TEST(Transportes, OverflowIsTheRuntimeError) {
   const TransportesFields f = problem({{"1", "1"}, {"1", "1"}}, {"1e308", "1e308"}, {"1", "1"});
-  EXPECT_THROW(try { solve(f); } catch (const RuntimeError& e) {
-    EXPECT_EQ(e.number(), err::Overflow);
-    throw;
-  }, RuntimeError);
+  EXPECT_THROW(
+      try { solve(f); } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), err::Overflow);
+        throw;
+      },
+      RuntimeError);
 }
 
 TEST(Transportes, FileRoundTripsAndABadListIndexEndsTheRead) {
