@@ -5,7 +5,9 @@
 #include "decision/incertidumbre_screens.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
+#include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
+#include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
 static void initPictures() { Q_INIT_RESOURCE(vorel); }
@@ -18,6 +20,8 @@ void registerAllScreens() {
   inventory::registerScreens();
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
+  games::registerJuegosNScreens();
+  queueing::registerColasScreens();
 }
 
 }  // namespace vorel::gui
