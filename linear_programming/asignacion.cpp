@@ -10,11 +10,7 @@ namespace {
 constexpr int kArrays = kAsignacionArrays;
 constexpr int kMax = kAsignacionMax;
 
-std::string selectorText(int listIndex) {
-  return listIndex >= 0 && listIndex < kMax ? std::to_string(listIndex + 1) : "";
-}
-
-int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex))); }
+int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex, kMax))); }
 
 void layOut(AsignacionFields& f, int individuos, int tareas) {
   for (auto& column : f.C)
@@ -25,13 +21,6 @@ void layOut(AsignacionFields& f, int individuos, int tareas) {
     for (int j = 0; j < tareas; ++j) item(item(f.C, j), i).visible = true;
   for (int i = 0; i < individuos; ++i) item(f.LblIndividuos, i) = true;
   for (int j = 0; j < tareas; ++j) item(f.LblTareas, j) = true;
-}
-
-void listIndex(ProblemFile& file, int& target) {
-  int value = target;
-  file.number(value);
-  if (value < -1 || value >= kMax) throw ReadFailed{};  // the selector has no such item
-  target = value;
 }
 
 // The message of an empty or non-numeric cell: the columns do not all say it alike.
@@ -116,8 +105,8 @@ class Enumeracion {
 
 void header(Report& out, const AsignacionFields& f, const AsignacionResults& r) {
   out.heading(f.Título);
-  out.line(Z, "Número de individuos:", Z, Z, selectorText(f.NumIndividuos));
-  out.line(Z, "Número de tareas:", Z, Z, selectorText(f.NumTareas));
+  out.line(Z, "Número de individuos:", Z, Z, selectorText(f.NumIndividuos, kMax));
+  out.line(Z, "Número de tareas:", Z, Z, selectorText(f.NumTareas, kMax));
   out.line(Z, " ");
   out.rule();
   out.line(Z, "Número de soluciones:", Z, Str(double(r.numSoluciones)));
@@ -231,8 +220,8 @@ Pages solveAndReport(AsignacionFields& f) {
 
 void exchange(ProblemFile& file, AsignacionFields& f) {
   file.text(f.Título);
-  listIndex(file, f.NumIndividuos);
-  listIndex(file, f.NumTareas);
+  file.listIndex(f.NumIndividuos, kMax);
+  file.listIndex(f.NumTareas, kMax);
   for (int i = 0; i < kArrays; ++i)
     for (auto& column : f.C) {
       file.text(column[i].text);

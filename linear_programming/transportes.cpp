@@ -9,13 +9,8 @@ namespace {
 
 constexpr int kArrays = kTransportesArrays;
 
-// The text of a selector with items "1".."7".
-std::string selectorText(int listIndex) {
-  return listIndex >= 0 && listIndex < kTransportesMax ? std::to_string(listIndex + 1) : "";
-}
-
 // A selector read as the handlers read it: Val of its text.
-int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex))); }
+int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex, kTransportesMax))); }
 
 // Shows the m by n table with its supply column and demand row and captions
 // the headings; everything else is hidden, and no cell is blanked.
@@ -39,15 +34,6 @@ void layOut(TransportesFields& f, int m, int n) {
   }
 }
 
-// A list index as abrir stores it: a value the selector has no item for is
-// refused by the control, and the read ends there.
-void listIndex(ProblemFile& file, int& target) {
-  int value = target;
-  file.number(value);
-  if (value < -1 || value >= kTransportesMax) throw ReadFailed{};
-  target = value;
-}
-
 }  // namespace
 
 TransportesFields::TransportesFields() {
@@ -60,8 +46,10 @@ TransportesFields::TransportesFields() {
 }
 
 Messages rediseñar(TransportesFields& f) {
-  if (selectorText(f.NumOrigen).empty()) return {{"Introduzca el Número de Orígenes", ""}};
-  if (selectorText(f.NumDestino).empty()) return {{"Introduzca el Número de Destinos", ""}};
+  if (selectorText(f.NumOrigen, kTransportesMax).empty())
+    return {{"Introduzca el Número de Orígenes", ""}};
+  if (selectorText(f.NumDestino, kTransportesMax).empty())
+    return {{"Introduzca el Número de Destinos", ""}};
   layOut(f, selectorValue(f.NumOrigen), selectorValue(f.NumDestino));
   return {};
 }
@@ -194,8 +182,8 @@ namespace {
 // Everything after the blank lines: the same on screen and on paper.
 void body(Report& out, const TransportesFields& f, const TransportesResults& r) {
   out.heading(f.Título);
-  out.line(Z, "Número de orígenes:", Z, Z, selectorText(f.NumOrigen));
-  out.line(Z, "Número de destinos:", Z, Z, selectorText(f.NumDestino));
+  out.line(Z, "Número de orígenes:", Z, Z, selectorText(f.NumOrigen, kTransportesMax));
+  out.line(Z, "Número de destinos:", Z, Z, selectorText(f.NumDestino, kTransportesMax));
   out.line(Z, "Existencias:", Z, Z, Z, Str(r.S));
   out.line(Z, "Demandas:", Z, Z, Z, Str(r.D));
   out.rule();
@@ -250,8 +238,8 @@ RunOutcome resolver(const TransportesFields& f, long stepBudget) {
 
 void exchange(ProblemFile& file, TransportesFields& f) {
   file.text(f.Título);
-  listIndex(file, f.NumOrigen);
-  listIndex(file, f.NumDestino);
+  file.listIndex(f.NumOrigen, kTransportesMax);
+  file.listIndex(f.NumDestino, kTransportesMax);
   for (int i = 0; i < kArrays; ++i)
     for (auto& column : f.C) {
       file.text(column[i].text);
