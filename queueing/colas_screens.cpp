@@ -23,7 +23,8 @@ QLabel* etiqueta(QWidget* parent, const QString& text, const QString& widest,
   QFont font = label->font();
   font.setPointSizeF(pointSize);
   label->setFont(font);
-  label->setStyleSheet(QStringLiteral("color: %1;").arg(QString::fromLatin1(color)));
+  label->setStyleSheet(QStringLiteral("QLabel { color: %1; } QLabel:disabled { color: #A0AEC0; }")
+                           .arg(QString::fromLatin1(color)));
   label->setWordWrap(true);
   label->setFixedWidth(QFontMetrics(font).horizontalAdvance(widest) + 8);
   return label;
