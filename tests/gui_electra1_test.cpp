@@ -51,6 +51,28 @@ protected:
   }
 };
 
+TEST_F(Electra1Screens, ControlsCarryTheirNamesAndTips) {
+  screens().show(kEntry);
+  struct Case {
+    const char* control;
+    const char* tip;
+  } cases[] = {{"Image6", "Volver"},
+               {"escalaValoracion", "Escala de valoración"},
+               {"IndiceConcordancia", "Índice de concordancia en tanto por uno"},
+               {"IndiceDiscordancia", "Índice de Discordancia en tanto por uno"}};
+  for (const Case& c : cases) {
+    ASSERT_NE(control(c.control), nullptr) << c.control;
+    EXPECT_EQ(control(c.control)->toolTip(), c.tip);
+  }
+  EXPECT_EQ(control<QAbstractButton>("RediseñarTabla")->text(), "Rediseñar Tabla");
+  EXPECT_EQ(control<QComboBox>("NumAlternativas")->count(), 6);
+  EXPECT_EQ(control<QComboBox>("NumCriterios")->count(), 7);
+  EXPECT_EQ(screen(kEntry)->windowTitle(), "Método multicriterio Electra 1");
+  press(kEntry, "Image6");
+  EXPECT_TRUE(visible("DecisionMulticriterio"));
+  EXPECT_FALSE(visible(kEntry));
+}
+
 // Every example solves on the screens as on the command line: the painted
 // report and the kept page read as the golden texts; a refused problem tells
 // the same message; a division by zero is the platform's error 11.
