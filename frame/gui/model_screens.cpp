@@ -101,11 +101,11 @@ void EntryScreen::showSolution(const std::string& solution) {
 }
 
 SolutionScreen::SolutionScreen(const std::string& name, const QString& label, int columns,
-                               int lines)
+                               int lines, const QString& reportName)
     : Screen(name) {
   setAccent(sectionColor(info() ? info()->entry : name));
   setHeading(label);
-  report_ = new ReportBox("Solucion1", columns, lines, this);
+  report_ = new ReportBox(reportName, columns, lines, this);
   body()->addWidget(report_);
   commands_ = new QHBoxLayout();
   commands_->addStretch();

@@ -102,8 +102,10 @@ private:
 class SolutionScreen : public Screen {
   Q_OBJECT
 public:
-  // `columns` and `lines` size the report box for the largest report.
-  SolutionScreen(const std::string& name, const QString& label, int columns, int lines);
+  // `columns` and `lines` size the report box for the largest report;
+  // `reportName` is the report box's control name.
+  SolutionScreen(const std::string& name, const QString& label, int columns, int lines,
+                 const QString& reportName = QStringLiteral("Solucion1"));
 
   ReportBox* Solucion1() const { return report_; }
   const Report& page() const { return page_; }

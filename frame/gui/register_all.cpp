@@ -7,6 +7,7 @@
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
+#include "linear_programming/simplex_screens.h"
 #include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
@@ -18,6 +19,7 @@ void registerAllScreens() {
   initPictures();
   registerMenuScreens();
   inventory::registerScreens();
+  linear_programming::registerSimplexScreens();
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
