@@ -17,6 +17,12 @@ void renameChrome(QWidget& screen, const QString& from, const QString& to) {
   if (auto* button = screen.findChild<QAbstractButton*>(from)) button->setObjectName(to);
 }
 
+int gridRow(QGridLayout* grid, QWidget* w) {
+  int row = 0, column = 0, rowSpan = 0, columnSpan = 0;
+  grid->getItemPosition(grid->indexOf(w), &row, &column, &rowSpan, &columnSpan);
+  return row;
+}
+
 QComboBox* addSelector(QWidget& screen, QGridLayout* grid, int row, const QString& objectName,
                        const QString& label, int count) {
   QStringList items;
@@ -76,8 +82,8 @@ Electra1Entry::Electra1Entry()
                  "Título", "Problema 1") {
   renameChrome(*this, "volver", "Image6");
   bindings_.bind(&Electra1Fields::Título, titleField());
-  bindings_.bind(&Electra1Fields::escalaValoracion,
-                 addField("escalaValoracion", "Escala de Valoración", "Escala de valoración"));
+  QLineEdit* escala = addField("escalaValoracion", "Escala de Valoración", "Escala de valoración");
+  bindings_.bind(&Electra1Fields::escalaValoracion, escala);
   bindings_.bind(&Electra1Fields::IndiceConcordancia,
                  addField("IndiceConcordancia", "Límite de Concordancia",
                           "Índice de concordancia en tanto por uno"));
@@ -85,11 +91,13 @@ Electra1Entry::Electra1Entry()
                  addField("IndiceDiscordancia", "Límite de Discordancia",
                           "Índice de Discordancia en tanto por uno"));
 
+  const int top = gridRow(fieldGrid(), escala);
   NumAlternativas_ =
-      addSelector(*this, fieldGrid(), 0, "NumAlternativas", "Número de Alternativas", 6);
-  NumCriterios_ = addSelector(*this, fieldGrid(), 1, "NumCriterios", "Número de Criterios", 7);
+      addSelector(*this, fieldGrid(), top, "NumAlternativas", "Número de Alternativas", 6);
+  NumCriterios_ =
+      addSelector(*this, fieldGrid(), top + 1, "NumCriterios", "Número de Criterios", 7);
   auto* reshape = redesignButton(*this, [this] { rediseñarTabla(); });
-  fieldGrid()->addWidget(reshape, 2, 3, 1, 2, Qt::AlignLeft);
+  fieldGrid()->addWidget(reshape, top + 2, 3, 1, 2, Qt::AlignLeft);
   fieldGrid()->setColumnMinimumWidth(2, 24);
 
   // The table: criteria down the rows, alternatives and then the weights across.
@@ -183,7 +191,7 @@ void Electra1Entry::rediseñarTabla() {
 }
 
 Electra1Solution::Electra1Solution()
-    : SolutionScreen("DecisionElectra1_solucion", "Electra 1", 92, 50) {}
+    : SolutionScreen("DecisionElectra1_solucion", "Electra 1", 86, 52) {}
 
 Pages Electra1Solution::compute() {
   const Electra1Fields f = entry<Electra1Entry>().fields();

@@ -21,6 +21,8 @@ namespace vorel::decision {
 
 // Gives a chrome command the control name this screen knows it by.
 void renameChrome(QWidget& screen, const QString& from, const QString& to);
+// The row of the fields' grid that holds `w`.
+int gridRow(QGridLayout* grid, QWidget* w);
 // A labelled selector with the items "1" to `count`, at `row` of the fields'
 // grid, beside the text boxes.
 QComboBox* addSelector(QWidget& screen, QGridLayout* grid, int row, const QString& objectName,

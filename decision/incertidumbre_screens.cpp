@@ -12,12 +12,14 @@ IncertidumbreEntry::IncertidumbreEntry()
                  "Título", "Problema 1") {
   renameChrome(*this, "volver", "Image5");
   bindings_.bind(&IncertidumbreFields::Título, titleField());
-  bindings_.bind(&IncertidumbreFields::Alfa, addField("Alfa", "Coeficiente de Optimismo"));
+  QLineEdit* alfa = addField("Alfa", "Coeficiente de Optimismo");
+  bindings_.bind(&IncertidumbreFields::Alfa, alfa);
+  const int top = gridRow(fieldGrid(), alfa);
   NumAlternativas_ =
-      addSelector(*this, fieldGrid(), 0, "NumAlternativas", "Número de Alternativas", 7);
-  NumEstados_ =
-      addSelector(*this, fieldGrid(), 1, "NumEstados", "Número de Estados de la Naturaleza", 7);
-  fieldGrid()->addWidget(redesignButton(*this, [this] { rediseñarTabla(); }), 2, 3, 1, 2,
+      addSelector(*this, fieldGrid(), top, "NumAlternativas", "Número de Alternativas", 7);
+  NumEstados_ = addSelector(*this, fieldGrid(), top + 1, "NumEstados",
+                            "Número de Estados de la Naturaleza", 7);
+  fieldGrid()->addWidget(redesignButton(*this, [this] { rediseñarTabla(); }), top + 2, 3, 1, 2,
                          Qt::AlignLeft);
   fieldGrid()->setColumnMinimumWidth(2, 24);
 
@@ -115,7 +117,7 @@ void IncertidumbreEntry::rediseñarTabla() {
 
 IncertidumbreSolution::IncertidumbreSolution()
     : SolutionScreen("DecisionIncertidumbre_solucion",
-                     "Toma de decisiones en ambiente de incertidumbre", 92, 44) {
+                     "Toma de decisiones en ambiente de incertidumbre", 86, 46) {
   struct Definicion {
     Boton boton;
     const char* name;
@@ -138,7 +140,7 @@ IncertidumbreSolution::IncertidumbreSolution()
     auto* button = command(d.name, d.picture, d.toolTip, [this, boton] { pulsarBoton(boton); }, 40);
     QVBoxLayout* column = gui::captioned(button);
     auto* caption = qobject_cast<QLabel*>(column->itemAt(1)->widget());
-    caption->setMaximumWidth(150);
+    caption->setFixedWidth(130);
     caption->setWordWrap(true);
     caption->setAlignment(Qt::AlignHCenter);
     commandRow()->insertLayout(at++, column);
