@@ -53,8 +53,8 @@ void setShown(QWidget* w, bool visible) { w->setVisible(visible); }
 }  // namespace
 
 SimplexEntry::SimplexEntry()
-    : ModelEntry("PL_Simplex", QString::fromUtf8(kSimplexCaption),
-                 QString::fromUtf8(kSimplexIntro), "Título", "Problema 1") {
+    : ModelEntry("PL_Simplex", QString::fromUtf8(kSimplexCaption), QString::fromUtf8(kSimplexIntro),
+                 "Título", "Problema 1") {
   // The objective's sense and the size of the table, then the command that applies it.
   QGridLayout* top = fieldGrid();
   funcionObjetivo_ = gui::newSelector(this, itemsOf(kFuncionObjetivoItems));
@@ -210,8 +210,10 @@ void SimplexEntry::rediseñarTabla() {
 
 SimplexSolution::SimplexSolution()
     : SolutionScreen("PL_Simplex_Solucion", "Simplex", 112, 44, "SolucionF") {
-  auto* back = command("back", "cmd-back", "Solución 1", [this] { browse(false); }, 40);
-  auto* forward = command("forward", "cmd-forward", "Solución 2", [this] { browse(true); }, 40);
+  auto* back = command(
+      "back", "cmd-back", "Solución 1", [this] { browse(false); }, 40);
+  auto* forward = command(
+      "forward", "cmd-forward", "Solución 2", [this] { browse(true); }, 40);
   commandRow()->insertLayout(0, gui::captioned(forward));
   commandRow()->insertLayout(0, gui::captioned(back));
   showAvailability();

@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QTimer>
+#include <functional>
 
 #include "frame/gui/model_screens.h"
 #include "frame/gui/report_box.h"
@@ -30,14 +31,12 @@ std::string golden(const char* name) {
 }
 
 class SimplexScreens : public ScreenTest {
-protected:
+ protected:
   void SetUp() override {
     ScreenTest::SetUp();
     screens().show(kEntry);
   }
-  QComboBox* combo(const QString& name) {
-    return screen(kEntry)->findChild<QComboBox*>(name);
-  }
+  QComboBox* combo(const QString& name) { return screen(kEntry)->findChild<QComboBox*>(name); }
   bool shown(const QString& name) {
     auto* w = screen(kEntry)->findChild<QWidget*>(name);
     return w && !w->isHidden();
@@ -107,10 +106,10 @@ TEST_F(SimplexScreens, FormLoadShowsTheTwoByTwoTableAndTheFixedTexts) {
   struct Cell {
     const char* name;
     bool shown;
-  } cells[] = {{"X1(0)", true},          {"X2(2)", true},          {"X1(3)", false},
-               {"X3(0)", false},         {"X7(7)", false},         {"existencias(2)", true},
-               {"existencias(3)", false}, {"restriccion(1)", true}, {"restriccion(2)", false},
-               {"LblFactores(1)", true}, {"LblFactores(2)", false}, {"Lblrestriccion(2)", false}};
+  } cells[] = {{"X1(0)", true},           {"X2(2)", true},           {"X1(3)", false},
+               {"X3(0)", false},          {"X7(7)", false},          {"existencias(2)", true},
+               {"existencias(3)", false}, {"restriccion(1)", true},  {"restriccion(2)", false},
+               {"LblFactores(1)", true},  {"LblFactores(2)", false}, {"Lblrestriccion(2)", false}};
   for (const Cell& c : cells) EXPECT_EQ(shown(c.name), c.shown) << c.name;
 }
 
@@ -178,16 +177,24 @@ TEST_F(SimplexScreens, ResolverChecksTheObjectiveRowOnly) {
     std::vector<std::string> messages;
     const char* focus;
   } cases[] = {
-      {"two empty cells", 2, {"", ""}, {"Debe completar la tabla", "Debe completar la tabla"},
+      {"two empty cells",
+       2,
+       {"", ""},
+       {"Debe completar la tabla", "Debe completar la tabla"},
        "X2(0)"},
       {"X5 and X7 in lower case",
        7,
        {"1", "2", "3", "4", "", "6", "siete"},
        {"debe completar la tabla", "debe completar la tabla"},
        "X7(0)"},
-      {"out of range", 2, {"-1e9", "3"},
-       {"Debe introducir valores comprendidos entre -999999999 y 999999999"}, "X1(0)"},
-      {"range, then empty", 3, {"2", "1000000000", ""},
+      {"out of range",
+       2,
+       {"-1e9", "3"},
+       {"Debe introducir valores comprendidos entre -999999999 y 999999999"},
+       "X1(0)"},
+      {"range, then empty",
+       3,
+       {"2", "1000000000", ""},
        {"Debe introducir valores comprendidos entre -999999999 y 999999999",
         "Debe completar la tabla"},
        "X3(0)"},
@@ -223,10 +230,17 @@ TEST_F(SimplexScreens, RediseñarTablaShowsTheChosenTableAndKeepsWhatCellsHold) 
   struct Cell {
     const char* name;
     bool shown;
-  } cells[] = {{"X4(0)", true},           {"X4(5)", true},           {"X5(0)", false},
-               {"X1(6)", false},          {"existencias(5)", true},  {"existencias(6)", false},
-               {"restriccion(4)", true},  {"restriccion(5)", false}, {"LblFactores(3)", true},
-               {"LblFactores(4)", false}, {"Lblrestriccion(4)", true},
+  } cells[] = {{"X4(0)", true},
+               {"X4(5)", true},
+               {"X5(0)", false},
+               {"X1(6)", false},
+               {"existencias(5)", true},
+               {"existencias(6)", false},
+               {"restriccion(4)", true},
+               {"restriccion(5)", false},
+               {"LblFactores(3)", true},
+               {"LblFactores(4)", false},
+               {"Lblrestriccion(4)", true},
                {"Lblrestriccion(5)", false}};
   for (const Cell& c : cells) EXPECT_EQ(shown(c.name), c.shown) << c.name;
   EXPECT_EQ(focused(), "X1(0)");
@@ -237,6 +251,17 @@ TEST_F(SimplexScreens, RediseñarTablaShowsTheChosenTableAndKeepsWhatCellsHold) 
   EXPECT_EQ(text(kEntry, "X2(2)"), "9");
   reshape(2, 2);
   EXPECT_EQ(text(kEntry, "X2(2)"), "9");
+
+  // With no number of variables chosen no cell shows, and X1(0) cannot take
+  // the focus: the platform's error 5, after the reshaping.
+  combo("NumFactores")->setCurrentIndex(-1);
+  press(kEntry, "RediseñarTabla");
+  EXPECT_EQ(platform.runtimeErrors, std::vector<int>{5});
+  EXPECT_FALSE(shown("X1(0)"));
+  EXPECT_FALSE(shown("X1(1)"));
+  EXPECT_FALSE(shown("LblFactores(0)"));
+  EXPECT_TRUE(shown("existencias(2)"));
+  EXPECT_TRUE(shown("restriccion(1)"));
 }
 
 TEST_F(SimplexScreens, NuevoBlanksTheTableAndPutsBackTheTwoByTwoShape) {
@@ -323,14 +348,29 @@ TEST_F(SimplexScreens, ImprimirPrintsItsOwnPageWhateverTheEnd) {
   EXPECT_EQ(text.find("SOLUCIÓN"), std::string::npos);
 }
 
-TEST_F(SimplexScreens, AnOverflowIsTheRuntimeErrorBoxAndTheScreenStaysUsable) {
-  typeTextbook();
-  type(kEntry, "existencias(1)", "1e39");
-  press(kEntry, "Resolver");
-  EXPECT_EQ(platform.runtimeErrors, std::vector<int>{6});
-  ASSERT_NE(solution(), nullptr);
-  EXPECT_TRUE(enabled("volver"));
-  EXPECT_TRUE(enabled("Imprimir"));
+TEST_F(SimplexScreens, RunTimeErrorsGoToThePlatformAndTheScreenStaysUsable) {
+  struct Case {
+    const char* what;
+    std::function<void()> edit;
+    int error;
+  } cases[] = {
+      {"a right-hand side beyond Single", [&] { type(kEntry, "existencias(1)", "1e39"); }, 6},
+      {"no number of constraints chosen", [&] { combo("Numrestricciones")->setCurrentIndex(-1); },
+       9},
+  };
+  for (const Case& c : cases) {
+    screens().reset();
+    platform.runtimeErrors.clear();
+    screens().show(kEntry);
+    typeTextbook();
+    c.edit();
+    press(kEntry, "Resolver");
+    EXPECT_EQ(platform.runtimeErrors, std::vector<int>{c.error}) << c.what;
+    ASSERT_NE(solution(), nullptr) << c.what;
+    EXPECT_EQ(report(), "") << c.what;
+    EXPECT_TRUE(enabled("volver")) << c.what;
+    EXPECT_TRUE(enabled("Imprimir")) << c.what;
+  }
 }
 
 // A problem whose big-M rounding cycles: the method never ends, but the
