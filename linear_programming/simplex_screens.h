@@ -18,19 +18,19 @@ namespace vorel::linear_programming {
 
 class SimplexEntry : public gui::ModelEntry<SimplexFields> {
   Q_OBJECT
- public:
+public:
   SimplexEntry();
   SimplexFields fields() const override;
   void setFields(const SimplexFields& f) override;
 
- protected:
+protected:
   void nuevo() override;
   void exchange(ProblemFile& file, SimplexFields& f) override {
     linear_programming::exchange(file, f);
   }
   Messages check(const SimplexFields& f) override { return linear_programming::check(f); }
 
- private:
+private:
   void rediseñarTabla();
 
   QComboBox* funcionObjetivo_;
@@ -45,7 +45,7 @@ class SimplexEntry : public gui::ModelEntry<SimplexFields> {
 
 class SimplexSolution : public gui::SolutionScreen {
   Q_OBJECT
- public:
+public:
   SimplexSolution();
   // Solves the entry screen's problem and paints the final solution. The
   // method has no guard against cycling, so this may never end; it runs in
@@ -55,10 +55,10 @@ class SimplexSolution : public gui::SolutionScreen {
   bool solving() const { return solving_; }
   const SimplexResults& results() const { return results_; }
 
- protected:
+protected:
   Pages compute() override;  // the report and page of the solving just ended
 
- private:
+private:
   void browse(bool second);  // forward and back
   void showAvailability();
 
