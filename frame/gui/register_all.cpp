@@ -7,7 +7,9 @@
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
+#include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
+#include "linear_programming/transportes_screens.h"
 #include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
@@ -20,6 +22,8 @@ void registerAllScreens() {
   registerMenuScreens();
   inventory::registerScreens();
   linear_programming::registerSimplexScreens();
+  linear_programming::registerTransportesScreens();
+  linear_programming::registerAsignacionScreens();
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();

@@ -1,0 +1,173 @@
+#include "linear_programming/asignacion_screens.h"
+
+#include <QFrame>
+
+#include "decision/electra1_screens.h"  // the pieces of the table screens
+#include "frame/gui/picture_button.h"
+#include "linear_programming/transportes_screens.h"
+
+namespace vorel::linear_programming {
+
+namespace {
+const std::string kEntry = "PL_Asignación";
+const std::string kSolution = "PL_Asignación_Solución";
+}  // namespace
+
+AsignacionEntry::AsignacionEntry()
+    : ModelEntry(kEntry, "Problemas de Asignación", {}, "Título", "Problema 1") {
+  NumIndividuos_ = addTableSelector(*this, 0, "NumIndividuos", "Individuos", {});
+  NumTareas_ = addTableSelector(*this, 1, "NumTareas", "Tareas", {});
+  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2,
+                         1, Qt::AlignVCenter);
+  fieldGrid()->setColumnMinimumWidth(2, 24);
+  fieldGrid()->setColumnStretch(4, 1);
+
+  // The table: individuals down the rows, tasks across.
+  auto* frame = decision::tableFrame(*this);
+  auto* grid = new QGridLayout(frame);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(5);
+  LblTareas_.create(frame, "LblTareas", 0, kAsignacionMax - 1, [](QWidget* parent) {
+    auto* head = gui::newHeading(parent);
+    head->setFixedWidth(84);
+    head->setStyleSheet(
+        "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
+        " background-color: #E2E8F0;");
+    return head;
+  });
+  LblIndividuos_.create(frame, "LblIndividuos", 0, kAsignacionMax - 1, gui::newHeading);
+  for (int j = 1; j <= kAsignacionArrays; ++j)
+    columna(j).create(frame, "C" + QString::number(j), 0, kAsignacionArrays - 1,
+                      [](QWidget* parent) {
+                        auto* cell = gui::newCell(parent);
+                        cell->setFixedWidth(84);
+                        return cell;
+                      });
+  for (int k = 0; k < kAsignacionMax; ++k) {
+    LblTareas_(k)->setText(QString::fromStdString(asignacionHeading(true, k)));
+    grid->addWidget(LblTareas_(k), 0, k + 1);
+    LblIndividuos_(k)->setText(QString::fromStdString(asignacionHeading(false, k)));
+    LblIndividuos_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    LblIndividuos_(k)->setMinimumWidth(84);
+    grid->addWidget(LblIndividuos_(k), k + 1, 0);
+  }
+  for (int i = 0; i < kAsignacionArrays; ++i)
+    for (int j = 1; j <= kAsignacionArrays; ++j) grid->addWidget(columna(j)(i), i + 1, j);
+  grid->setColumnStretch(kAsignacionArrays + 1, 1);
+  decision::placeTable(body(), fieldGrid(), frame);
+
+  setFields(AsignacionFields{});
+}
+
+AsignacionFields AsignacionEntry::fields() const {
+  AsignacionFields f;
+  f.Título = titleField()->text().toStdString();
+  f.NumIndividuos = NumIndividuos_->currentIndex();
+  f.NumTareas = NumTareas_->currentIndex();
+  for (int i = 0; i < kAsignacionArrays; ++i)
+    for (int j = 1; j <= kAsignacionArrays; ++j) {
+      const QLineEdit* cell = columna(j)(i);
+      f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)] = {
+          cell->text().toStdString(), !cell->isHidden()};
+    }
+  for (int k = 0; k < kAsignacionMax; ++k) {
+    f.LblIndividuos[static_cast<std::size_t>(k)] = !LblIndividuos_(k)->isHidden();
+    f.LblTareas[static_cast<std::size_t>(k)] = !LblTareas_(k)->isHidden();
+  }
+  return f;
+}
+
+void AsignacionEntry::setFields(const AsignacionFields& f) {
+  titleField()->setText(QString::fromStdString(f.Título));
+  NumIndividuos_->setCurrentIndex(f.NumIndividuos);
+  NumTareas_->setCurrentIndex(f.NumTareas);
+  for (int i = 0; i < kAsignacionArrays; ++i)
+    for (int j = 1; j <= kAsignacionArrays; ++j) {
+      const AsignacionCell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
+      QLineEdit* cell = columna(j)(i);
+      cell->setText(QString::fromStdString(c.text));
+      cell->setVisible(c.visible);
+    }
+  for (int k = 0; k < kAsignacionMax; ++k) {
+    LblIndividuos_(k)->setVisible(f.LblIndividuos[static_cast<std::size_t>(k)]);
+    LblTareas_(k)->setVisible(f.LblTareas[static_cast<std::size_t>(k)]);
+  }
+  decision::fitToTable(*this);
+}
+
+void AsignacionEntry::nuevo() {
+  AsignacionFields f = fields();
+  linear_programming::nuevo(f);
+  setFields(f);
+}
+
+void AsignacionEntry::rediseñarTabla() {
+  AsignacionFields f = fields();
+  rediseñar(f);
+  setFields(f);
+  columna(1)(0)->setFocus();
+}
+
+AsignacionSolution::AsignacionSolution()
+    : SolutionScreen(kSolution, "Problemas de Asignación", 92, 30) {
+  struct Definicion {
+    Browsing* at;
+    const char* name;
+    const char* picture;
+    const char* toolTip;
+    int pagina;
+  };
+  // Back steps first, then forward ones: one of each shows at most.
+  const Definicion definiciones[] = {
+      {&Back1_, "Back1", "cmd-back", "Solución 1", 1},
+      {&back2_, "back2", "cmd-back", "Solución 2", 2},
+      {&forward1_, "forward1", "cmd-forward", "Solución 2", 2},
+      {&forward2_, "forward2", "cmd-forward", "Solución 3", 3},
+  };
+  int at = 0;
+  for (const Definicion& d : definiciones) {
+    const int pagina = d.pagina;
+    auto* button = command(d.name, d.picture, d.toolTip, [this, pagina] { mostrar(pagina); }, 40);
+    QVBoxLayout* column = gui::captioned(button);
+    *d.at = {button, qobject_cast<QLabel*>(column->itemAt(1)->widget())};
+    commandRow()->insertLayout(at++, column);
+  }
+  ofrecerComandos();
+}
+
+Pages AsignacionSolution::compute() {
+  const AsignacionFields f = entry<AsignacionEntry>().fields();
+  results_ = solve(f);
+  pagina_ = 1;
+  ofrecerComandos();
+  return {report(f, results_, pagina_), printout(f, results_)};
+}
+
+void AsignacionSolution::mostrar(int pagina) {
+  pagina_ = pagina;
+  Solucion1()->Cls();
+  Solucion1()->setReport(report(entry<AsignacionEntry>().fields(), results_, pagina_));
+  ofrecerComandos();
+}
+
+void AsignacionSolution::ofrecerComandos() {
+  const AsignacionComandos c = comandos(results_.numSoluciones, pagina_);
+  for (auto [b, shown] : {std::pair{forward1_, c.forward1}, std::pair{forward2_, c.forward2},
+                          std::pair{back2_, c.back2}, std::pair{Back1_, c.Back1}}) {
+    b.button->setVisible(shown);
+    b.caption->setVisible(shown);
+  }
+}
+
+void AsignacionSolution::imprimir() {
+  gui::platform().printerDialog();
+  gui::printReport(printout(entry<AsignacionEntry>().fields(), results_));
+}
+
+void registerAsignacionScreens() {
+  gui::Screens& screens = gui::Screens::instance();
+  screens.add(kEntry, [] { return new AsignacionEntry(); });
+  screens.add(kSolution, [] { return new AsignacionSolution(); });
+}
+
+}  // namespace vorel::linear_programming

@@ -1,0 +1,78 @@
+// The transportation problem's screens: PL_Transportes, where the unit costs
+// are typed with the supplies in the column after the last destination and
+// the demands in the row after the last origin, and PL_Transportes_Solución,
+// which balances, solves and reports at each activation, or sends a
+// degenerate first solution back to the entry.
+#pragma once
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <array>
+
+#include "frame/gui/control_array.h"
+#include "frame/gui/model_screens.h"
+#include "linear_programming/transportes.h"
+
+namespace vorel::linear_programming {
+
+// Pieces of the two table screens of this section without a simplex of their
+// own (transportation and assignment).
+
+// A selector with the items "1" to "7", its caption and its tool-tip, at
+// `row` of the fields' grid.
+QComboBox* addTableSelector(gui::EntryScreen& screen, int row, const QString& objectName,
+                            const QString& label, const QString& toolTip);
+// Paints a cell as data (white) or as a total of the table (tinted).
+void markTotalCell(QLineEdit* cell, bool total);
+
+class TransportesEntry : public gui::ModelEntry<TransportesFields> {
+  Q_OBJECT
+public:
+  TransportesEntry();
+  TransportesFields fields() const override;
+  void setFields(const TransportesFields& f) override;
+
+protected:
+  void nuevo() override;
+  void exchange(ProblemFile& file, TransportesFields& f) override {
+    linear_programming::exchange(file, f);
+  }
+  Messages check(const TransportesFields& f) override { return linear_programming::check(f); }
+
+private:
+  void rediseñarTabla();
+  gui::ControlArray<QLineEdit>& columna(int j) { return C_[static_cast<std::size_t>(j - 1)]; }
+  const gui::ControlArray<QLineEdit>& columna(int j) const {
+    return C_[static_cast<std::size_t>(j - 1)];
+  }
+
+  QComboBox* NumOrigen_;
+  QComboBox* NumDestino_;
+  std::array<gui::ControlArray<QLineEdit>, kTransportesArrays> C_;  // C1..C8, rows 0..7
+  gui::ControlArray<QLabel> LblOrigen_;                              // 0..7
+  gui::ControlArray<QLabel> LblDestino_;                             // 0..7
+};
+
+class TransportesSolution : public gui::SolutionScreen {
+  Q_OBJECT
+public:
+  TransportesSolution();
+  const TransportesResults& results() const { return results_; }
+
+protected:
+  // Solves the entry's problem afresh. A degenerate first solution is told,
+  // and the entry comes back with all it held; nothing is painted.
+  Pages compute() override;
+  // The page from the results of the last activation and the entry's texts
+  // as they stand.
+  void imprimir() override;
+
+private:
+  TransportesResults results_;
+};
+
+void registerTransportesScreens();
+
+}  // namespace vorel::linear_programming
