@@ -17,8 +17,8 @@ AsignacionEntry::AsignacionEntry()
     : ModelEntry(kEntry, "Problemas de Asignación", {}, "Título", "Problema 1") {
   NumIndividuos_ = addTableSelector(*this, 0, "NumIndividuos", "Individuos", {});
   NumTareas_ = addTableSelector(*this, 1, "NumTareas", "Tareas", {});
-  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2,
-                         1, Qt::AlignVCenter);
+  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
+                         Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 
@@ -127,7 +127,8 @@ AsignacionSolution::AsignacionSolution()
   int at = 0;
   for (const Definicion& d : definiciones) {
     const int pagina = d.pagina;
-    auto* button = command(d.name, d.picture, d.toolTip, [this, pagina] { mostrar(pagina); }, 40);
+    auto* button = command(
+        d.name, d.picture, d.toolTip, [this, pagina] { mostrar(pagina); }, 40);
     QVBoxLayout* column = gui::captioned(button);
     *d.at = {button, qobject_cast<QLabel*>(column->itemAt(1)->widget())};
     commandRow()->insertLayout(at++, column);

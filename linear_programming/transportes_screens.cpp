@@ -43,8 +43,8 @@ TransportesEntry::TransportesEntry()
     : ModelEntry(kEntry, "Problema del Transporte", kTransportesIntro, "Título", "Problema 1") {
   NumOrigen_ = addTableSelector(*this, 0, "NumOrigen", "Orígenes", "Número de Orígenes");
   NumDestino_ = addTableSelector(*this, 1, "NumDestino", "Destinos", "Número de Destinos");
-  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2,
-                         1, Qt::AlignVCenter);
+  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
+                         Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 

@@ -29,7 +29,7 @@ const char* const kBrowsing[] = {"forward1", "forward2", "back2", "Back1"};
 using Buttons = std::set<std::string>;
 
 class AsignacionScreens : public ScreenTest {
-protected:
+ protected:
   void open(const QString& file) {
     if (!screen(kEntry)) screens().show(kEntry);
     platform.openAnswers.push_back(kExamples + file);
@@ -355,9 +355,9 @@ TEST_F(AsignacionScreens, ImprimirPrintsEverySolutionFromAnyPage) {
   const std::string text = pdfText(pdf);
   std::size_t at = 0;
   for (const char* line :
-       {"PROBLEMA DE ASIGNACIÓN", "Solución al problema: Costes iguales", "Número de soluciones:",
-        "SOLUCIÓN 1", "Individuo 3", "SOLUCIÓN 2", "Individuo 2", "Tarea 3", "SOLUCIÓN 3",
-        "Individuo 1", "Tarea 2", "Coste Total:"}) {
+       {"PROBLEMA DE ASIGNACIÓN", "Solución al problema: Costes iguales",
+        "Número de soluciones:", "SOLUCIÓN 1", "Individuo 3", "SOLUCIÓN 2", "Individuo 2",
+        "Tarea 3", "SOLUCIÓN 3", "Individuo 1", "Tarea 2", "Coste Total:"}) {
     at = text.find(line, at);
     ASSERT_NE(at, std::string::npos) << line;
   }

@@ -57,7 +57,7 @@ std::vector<std::string> section(const std::string& report, const std::string& m
 }
 
 class TransportesScreens : public ScreenTest {
-protected:
+ protected:
   void open(const QString& file) {
     if (!screen(kEntry)) screens().show(kEntry);
     platform.openAnswers.push_back(kExamples + file);
@@ -85,7 +85,8 @@ protected:
   // Types a table of m origins by n destinations with its supplies and
   // demands, after reshaping the entry to it.
   void typeTable(const std::vector<std::vector<const char*>>& costs,
-                 const std::vector<const char*>& supplies, const std::vector<const char*>& demands) {
+                 const std::vector<const char*>& supplies,
+                 const std::vector<const char*>& demands) {
     screens().show(kEntry);
     const int m = static_cast<int>(costs.size()), n = static_cast<int>(demands.size());
     select("NumOrigen", m - 1);
@@ -96,7 +97,8 @@ protected:
         type(kEntry, QString("C%1(%2)").arg(j + 1).arg(i), costs[std::size_t(i)][std::size_t(j)]);
       type(kEntry, QString("C%1(%2)").arg(n + 1).arg(i), supplies[std::size_t(i)]);
     }
-    for (int j = 0; j < n; ++j) type(kEntry, QString("C%1(%2)").arg(j + 1).arg(m), demands[std::size_t(j)]);
+    for (int j = 0; j < n; ++j)
+      type(kEntry, QString("C%1(%2)").arg(j + 1).arg(m), demands[std::size_t(j)]);
   }
   // The cells shown are those of an m by n table with its totals, no more.
   void expectShape(int m, int n) {
@@ -104,11 +106,14 @@ protected:
       EXPECT_EQ(shown(QString("LblOrigen(%1)").arg(i)), i <= m) << i;
       EXPECT_EQ(shown(QString("LblDestino(%1)").arg(i)), i <= n) << i;
       for (int j = 1; j <= 8; ++j)
-        EXPECT_EQ(shown(QString("C%1(%2)").arg(j).arg(i)), (i < m && j <= n + 1) || (i == m && j <= n))
+        EXPECT_EQ(shown(QString("C%1(%2)").arg(j).arg(i)),
+                  (i < m && j <= n + 1) || (i == m && j <= n))
             << "C" << j << "(" << i << ")";
     }
-    for (int i = 0; i < m; ++i) EXPECT_EQ(caption(QString("LblOrigen(%1)").arg(i)), QString("Origen %1").arg(i + 1));
-    for (int j = 0; j < n; ++j) EXPECT_EQ(caption(QString("LblDestino(%1)").arg(j)), QString("Destino %1").arg(j + 1));
+    for (int i = 0; i < m; ++i)
+      EXPECT_EQ(caption(QString("LblOrigen(%1)").arg(i)), QString("Origen %1").arg(i + 1));
+    for (int j = 0; j < n; ++j)
+      EXPECT_EQ(caption(QString("LblDestino(%1)").arg(j)), QString("Destino %1").arg(j + 1));
     EXPECT_EQ(caption(QString("LblOrigen(%1)").arg(m)), "Demandas");
     EXPECT_EQ(caption(QString("LblDestino(%1)").arg(n)), "Existencias");
   }
@@ -190,7 +195,8 @@ TEST_F(TransportesScreens, EveryBadCellIsToldAndTheFocusEndsOnTheLast) {
       {{{"C5(2)", ""}, {"C1(0)", "diez"}}, 2, "C5(2)"},  // a supply, after a cost of row 0
       {{{"C4(3)", "-"}, {"C3(1)", " "}}, 2, "C4(3)"},    // a demand, in the last row
       {{{"C5(3)", "x"}, {"C6(0)", "x"}, {"C1(4)", "x"}, {"C1(1)", "-4"}, {"C2(1)", "1e3"}},
-       0, "Título"},
+       0,
+       "Título"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.focus);
@@ -201,9 +207,9 @@ TEST_F(TransportesScreens, EveryBadCellIsToldAndTheFocusEndsOnTheLast) {
     for (auto [name, value] : c.edits) type(kEntry, name, value);
     control("Título")->setFocus();
     press(kEntry, "Resolver");
-    EXPECT_EQ(platform.messages,
-              std::vector<std::string>(std::size_t(c.messages),
-                                       "Debe Completar la tabla de Costes Unitarios de Transporte"));
+    EXPECT_EQ(platform.messages, std::vector<std::string>(
+                                     std::size_t(c.messages),
+                                     "Debe Completar la tabla de Costes Unitarios de Transporte"));
     EXPECT_EQ(visible(kSolution), c.messages == 0);
     if (c.messages > 0) {
       EXPECT_EQ(focused(), c.focus);
@@ -297,8 +303,10 @@ TEST_F(TransportesScreens, RediseñarTablaReshapesAndKeepsTheTexts) {
     EXPECT_EQ(focused(), "C1(0)");
     // The totals are painted apart from the costs.
     const QColor cost = control<QLineEdit>("C1(0)")->palette().color(QPalette::Base);
-    EXPECT_NE(control<QLineEdit>(QString("C%1(0)").arg(c.n + 1))->palette().color(QPalette::Base), cost);
-    EXPECT_NE(control<QLineEdit>(QString("C1(%1)").arg(c.m))->palette().color(QPalette::Base), cost);
+    EXPECT_NE(control<QLineEdit>(QString("C%1(0)").arg(c.n + 1))->palette().color(QPalette::Base),
+              cost);
+    EXPECT_NE(control<QLineEdit>(QString("C1(%1)").arg(c.m))->palette().color(QPalette::Base),
+              cost);
   }
   // Back to the book's shape: its texts outlived the other shapes.
   EXPECT_EQ(text(kEntry, "C5(0)"), "15");
@@ -328,7 +336,8 @@ TEST_F(TransportesScreens, NuevoBlanksAndRestoresTheFirstShapeButKeepsTheTitle) 
   open("siete-por-siete.txt");
   press(kEntry, "nuevo");
   EXPECT_EQ(text(kEntry, "Título"), "Siete por siete");
-  for (const char* f : {"C1(0)", "C3(1)", "C1(2)", "C7(6)", "C8(0)"}) EXPECT_EQ(text(kEntry, f), "") << f;
+  for (const char* f : {"C1(0)", "C3(1)", "C1(2)", "C7(6)", "C8(0)"})
+    EXPECT_EQ(text(kEntry, f), "") << f;
   EXPECT_EQ(control<QComboBox>("NumOrigen")->currentText(), "2");
   EXPECT_EQ(control<QComboBox>("NumDestino")->currentText(), "2");
   expectShape(2, 2);
@@ -408,9 +417,9 @@ TEST_F(TransportesScreens, ImprimirPrintsThePageUnderItsHead) {
   const std::string text = pdfText(pdf);
   std::size_t at = 0;
   for (int copy = 0; copy < 2; ++copy)
-    for (const char* line :
-         {"PROBLEMA DEL TRANSPORTE", "Solución al problema: Sobran existencias",
-          "Número de orígenes:", "CANTIDADES TRANSPORTADAS", "Origen 2 -Destino 2", "EXISTENCIAS", "Origen 2", "Coste Total"}) {
+    for (const char* line : {"PROBLEMA DEL TRANSPORTE", "Solución al problema: Sobran existencias",
+                             "Número de orígenes:", "CANTIDADES TRANSPORTADAS",
+                             "Origen 2 -Destino 2", "EXISTENCIAS", "Origen 2", "Coste Total"}) {
       at = text.find(line, at);
       ASSERT_NE(at, std::string::npos) << line << " in copy " << copy;
     }
