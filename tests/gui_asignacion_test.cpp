@@ -324,23 +324,6 @@ TEST_F(AsignacionScreens, ProblemFileRoundTrip) {
   EXPECT_FALSE(text(kEntry, "C4(3)").isEmpty());  // hidden, and kept
 }
 
-TEST_F(AsignacionScreens, CancelAndBadFilesLoseNothing) {
-  open("libro.txt");
-  const QString before = text(kEntry, "C1(0)");
-  platform.openAnswers.push_back(std::nullopt);
-  press(kEntry, "abrir");
-  EXPECT_EQ(text(kEntry, "C1(0)"), before);
-  const std::string half = tempPath("medio.txt");
-  writeBytes(half, "\"Medio\"\r\n0\r\n9\r\n\"5\"\r\n");  // no such list index: the read stops
-  platform.openAnswers.push_back(QString::fromStdString(half));
-  press(kEntry, "abrir");
-  EXPECT_EQ(text(kEntry, "Título"), "Medio");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumIndividuos")->currentText(), "1");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumTareas")->currentText(), "4");
-  EXPECT_EQ(text(kEntry, "C1(0)"), before);
-  EXPECT_TRUE(platform.messages.empty());
-}
-
 // Imprimir, from any page, prints every kept solution under its head.
 TEST_F(AsignacionScreens, ImprimirPrintsEverySolutionFromAnyPage) {
   open("costes-iguales.txt");

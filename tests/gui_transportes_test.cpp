@@ -387,22 +387,6 @@ TEST_F(TransportesScreens, ProblemFileRoundTrip) {
   EXPECT_FALSE(shown("LblDestino(4)"));
 }
 
-TEST_F(TransportesScreens, CancelAndBadFilesLoseNothing) {
-  open("libro.txt");
-  platform.openAnswers.push_back(std::nullopt);
-  press(kEntry, "abrir");
-  EXPECT_EQ(text(kEntry, "C1(0)"), "10");
-  const std::string half = tempPath("medio.txt");
-  writeBytes(half, "\"Medio\"\r\n0\r\n9\r\n\"5\"\r\n");  // no such list index: the read stops
-  platform.openAnswers.push_back(QString::fromStdString(half));
-  press(kEntry, "abrir");
-  EXPECT_EQ(text(kEntry, "Título"), "Medio");
-  EXPECT_EQ(control<QComboBox>("NumOrigen")->currentText(), "1");
-  EXPECT_EQ(control<QComboBox>("NumDestino")->currentText(), "4");
-  EXPECT_EQ(text(kEntry, "C1(0)"), "10");
-  EXPECT_TRUE(platform.messages.empty());
-}
-
 // Imprimir prints under its head the results of the activation with the
 // entry's texts as they stand; a second print joins the same document.
 TEST_F(TransportesScreens, ImprimirPrintsThePageUnderItsHead) {
