@@ -7,80 +7,13 @@
 
 namespace vorel::decision {
 
-namespace {
-const QString kCabeceraBase = QStringLiteral(
-    "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
-    " background-color: %1;");
-}  // namespace
-
-void renameChrome(QWidget& screen, const QString& from, const QString& to) {
-  if (auto* button = screen.findChild<QAbstractButton*>(from)) button->setObjectName(to);
-}
-
-int gridRow(QGridLayout* grid, QWidget* w) {
-  int row = 0, column = 0, rowSpan = 0, columnSpan = 0;
-  grid->getItemPosition(grid->indexOf(w), &row, &column, &rowSpan, &columnSpan);
-  return row;
-}
-
-QComboBox* addSelector(QWidget& screen, QGridLayout* grid, int row, const QString& objectName,
-                       const QString& label, int count) {
-  QStringList items;
-  for (int k = 1; k <= count; ++k) items << QString::number(k);
-  auto* combo = gui::newSelector(&screen, items);
-  combo->setObjectName(objectName);
-  combo->setFixedWidth(64);
-  auto* caption = new QLabel(label, &screen);
-  caption->setStyleSheet("font-size: 10pt; color: #1A202C;");
-  caption->setBuddy(combo);
-  grid->addWidget(caption, row, 3);
-  grid->addWidget(combo, row, 4, Qt::AlignLeft);
-  return combo;
-}
-
-QPushButton* redesignButton(QWidget& screen, std::function<void()> handler) {
-  auto* button = new QPushButton("Rediseñar Tabla", &screen);
-  button->setObjectName("RediseñarTabla");
-  button->setCursor(Qt::PointingHandCursor);
-  button->setStyleSheet(
-      "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
-      " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
-      "QPushButton:hover { background: #EDF2F7; }");
-  QObject::connect(button, &QPushButton::clicked, &screen,
-                   [handler = std::move(handler)] { gui::Screen::run(handler); });
-  return button;
-}
-
-QFrame* tableFrame(QWidget& screen) {
-  auto* frame = new QFrame(&screen);
-  frame->setObjectName("tabla");
-  frame->setStyleSheet(
-      "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
-  return frame;
-}
-
-void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
-  table->layout()->setContentsMargins(14, 12, 14, 12);
-  body->insertWidget(body->indexOf(fieldGrid) + 1, table);
-}
-
-void fitToTable(QWidget& screen) {
-  if (auto* layout = screen.layout()) layout->activate();
-  screen.adjustSize();
-}
-
-QColor platformColor(long backColor) {
-  const auto bytes = static_cast<unsigned long>(backColor);
-  return QColor(static_cast<int>(bytes & 0xFF), static_cast<int>((bytes >> 8) & 0xFF),
-                static_cast<int>((bytes >> 16) & 0xFF));
-}
 
 Electra1Entry::Electra1Entry()
     : ModelEntry("DecisionElectra1", "Electra 1",
                  "Permite guiar al decisor hacia la elección de una alternativa de entre un "
                  "conjunto de ellas utilizando criterios de decisión no agregables.",
                  "Título", "Problema 1") {
-  renameChrome(*this, "volver", "Image6");
+  gui::renameChrome(*this, "volver", "Image6");
   bindings_.bind(&Electra1Fields::Título, titleField());
   QLineEdit* escala = addField("escalaValoracion", "Escala de Valoración", "Escala de valoración");
   bindings_.bind(&Electra1Fields::escalaValoracion, escala);
@@ -91,17 +24,17 @@ Electra1Entry::Electra1Entry()
                  addField("IndiceDiscordancia", "Límite de Discordancia",
                           "Índice de Discordancia en tanto por uno"));
 
-  const int top = gridRow(fieldGrid(), escala);
+  const int top = gui::gridRow(fieldGrid(), escala);
   NumAlternativas_ =
-      addSelector(*this, fieldGrid(), top, "NumAlternativas", "Número de Alternativas", 6);
+      gui::addNumberSelector(*this, top, 3, "NumAlternativas", "Número de Alternativas", 6);
   NumCriterios_ =
-      addSelector(*this, fieldGrid(), top + 1, "NumCriterios", "Número de Criterios", 7);
-  auto* reshape = redesignButton(*this, [this] { rediseñarTabla(); });
+      gui::addNumberSelector(*this, top + 1, 3, "NumCriterios", "Número de Criterios", 7);
+  auto* reshape = gui::redesignButton(*this, [this] { rediseñarTabla(); });
   fieldGrid()->addWidget(reshape, top + 2, 3, 1, 2, Qt::AlignLeft);
   fieldGrid()->setColumnMinimumWidth(2, 24);
 
   // The table: criteria down the rows, alternatives and then the weights across.
-  auto* frame = tableFrame(*this);
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(5);
@@ -126,14 +59,14 @@ Electra1Entry::Electra1Entry()
     for (int j = 1; j <= 7; ++j) grid->addWidget(C_[static_cast<std::size_t>(j - 1)](k), k + 1, j);
   }
   grid->setColumnStretch(8, 1);
-  placeTable(body(), fieldGrid(), frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(Electra1Fields{});
 }
 
 void Electra1Entry::paintHead(QLabel* head, long backColor) {
   head->setProperty("BackColor", QVariant::fromValue<qlonglong>(backColor));
-  head->setStyleSheet(kCabeceraBase.arg(platformColor(backColor).name()));
+  gui::paintColumnHead(head, gui::platformColor(backColor));
 }
 
 Electra1Fields Electra1Entry::fields() const {
@@ -179,14 +112,14 @@ void Electra1Entry::nuevo() {
   Electra1Fields f = fields();
   decision::nuevo(f);
   setFields(f);
-  fitToTable(*this);
+  gui::fitToTable(*this);
 }
 
 void Electra1Entry::rediseñarTabla() {
   Electra1Fields f = fields();
   if (!tell(rediseñar(f))) return;
   setFields(f);
-  fitToTable(*this);
+  gui::fitToTable(*this);
   C_[0](0)->setFocus();
 }
 

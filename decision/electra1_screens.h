@@ -13,30 +13,9 @@
 #include "decision/electra1.h"
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
+#include "frame/gui/table_screen.h"
 
 namespace vorel::decision {
-
-// Pieces of the two decision table screens (this one and the uncertainty
-// screen), none of them particular to a model.
-
-// Gives a chrome command the control name this screen knows it by.
-void renameChrome(QWidget& screen, const QString& from, const QString& to);
-// The row of the fields' grid that holds `w`.
-int gridRow(QGridLayout* grid, QWidget* w);
-// A labelled selector with the items "1" to `count`, at `row` of the fields'
-// grid, beside the text boxes.
-QComboBox* addSelector(QWidget& screen, QGridLayout* grid, int row, const QString& objectName,
-                       const QString& label, int count);
-// The button RediseñarTabla, "Rediseñar Tabla"; its handler runs as a command.
-QPushButton* redesignButton(QWidget& screen, std::function<void()> handler);
-// The white panel that holds a table of cells.
-QFrame* tableFrame(QWidget& screen);
-// Puts the table panel below the fields' grid.
-void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table);
-// Fits the window to its table after the table changed shape.
-void fitToTable(QWidget& screen);
-// A colour as the platform stores it, a Long with red in the lowest byte.
-QColor platformColor(long backColor);
 
 class Electra1Entry : public gui::ModelEntry<Electra1Fields> {
   Q_OBJECT

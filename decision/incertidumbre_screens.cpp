@@ -10,21 +10,21 @@ namespace vorel::decision {
 IncertidumbreEntry::IncertidumbreEntry()
     : ModelEntry("DecisionIncertidumbre", "Toma de Decisiones en Ambiente de Incertidumbre", {},
                  "Título", "Problema 1") {
-  renameChrome(*this, "volver", "Image5");
+  gui::renameChrome(*this, "volver", "Image5");
   bindings_.bind(&IncertidumbreFields::Título, titleField());
   QLineEdit* alfa = addField("Alfa", "Coeficiente de Optimismo");
   bindings_.bind(&IncertidumbreFields::Alfa, alfa);
-  const int top = gridRow(fieldGrid(), alfa);
+  const int top = gui::gridRow(fieldGrid(), alfa);
   NumAlternativas_ =
-      addSelector(*this, fieldGrid(), top, "NumAlternativas", "Número de Alternativas", 7);
-  NumEstados_ = addSelector(*this, fieldGrid(), top + 1, "NumEstados",
+      gui::addNumberSelector(*this, top, 3, "NumAlternativas", "Número de Alternativas", 7);
+  NumEstados_ = gui::addNumberSelector(*this, top + 1, 3, "NumEstados",
                             "Número de Estados de la Naturaleza", 7);
-  fieldGrid()->addWidget(redesignButton(*this, [this] { rediseñarTabla(); }), top + 2, 3, 1, 2,
+  fieldGrid()->addWidget(gui::redesignButton(*this, [this] { rediseñarTabla(); }), top + 2, 3, 1, 2,
                          Qt::AlignLeft);
   fieldGrid()->setColumnMinimumWidth(2, 24);
 
   // The table: alternatives down the rows, states of nature across.
-  auto* frame = tableFrame(*this);
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(5);
@@ -62,7 +62,7 @@ IncertidumbreEntry::IncertidumbreEntry()
     for (int j = 1; j <= 7; ++j) grid->addWidget(C_[static_cast<std::size_t>(j - 1)](k), k + 2, j);
   }
   grid->setColumnStretch(8, 1);
-  placeTable(body(), fieldGrid(), frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(IncertidumbreFields{});
 }
@@ -104,14 +104,14 @@ void IncertidumbreEntry::nuevo() {
   IncertidumbreFields f = fields();
   decision::nuevo(f);
   setFields(f);
-  fitToTable(*this);
+  gui::fitToTable(*this);
 }
 
 void IncertidumbreEntry::rediseñarTabla() {
   IncertidumbreFields f = fields();
   if (!tell(rediseñar(f))) return;
   setFields(f);
-  fitToTable(*this);
+  gui::fitToTable(*this);
   C_[0](0)->setFocus();
 }
 

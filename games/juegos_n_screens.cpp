@@ -1,5 +1,7 @@
 #include "games/juegos_n_screens.h"
 
+#include "frame/gui/table_screen.h"
+
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,22 +17,6 @@ QLabel* caption(QWidget* parent, const QString& text, const char* style) {
   auto* label = new QLabel(text, parent);
   label->setStyleSheet(QString::fromLatin1(style));
   return label;
-}
-
-// A strategies selector, "1" to "8", with its caption on the fields' grid.
-QComboBox* selector(gui::EntryScreen& screen, int row, const QString& name, const QString& label,
-                    const QString& toolTip) {
-  QStringList items;
-  for (int k = 1; k <= kMaxEstrategias; ++k) items << QString::number(k);
-  auto* combo = gui::newSelector(&screen, items);
-  combo->setObjectName(name);
-  combo->setToolTip(toolTip);
-  combo->setFixedWidth(64);
-  auto* text = caption(&screen, label, "font-size: 10pt; color: #1A202C;");
-  text->setBuddy(combo);
-  screen.fieldGrid()->addWidget(text, row, 0);
-  screen.fieldGrid()->addWidget(combo, row, 1, Qt::AlignLeft);
-  return combo;
 }
 
 // A head of a row or column: a text box that shows the strategy's name.
@@ -54,31 +40,22 @@ JuegosNEntry::JuegosNEntry()
                  "equilibrios en estrategias puras a través del maximin y el minimax. Para obtener "
                  "equilibrios en estrategias mixtas deberemos recurrir a programación lineal.",
                  "Título", "Problema 1") {
-  if (auto* back = findChild<QAbstractButton*>("volver")) back->setObjectName("Image5");
+  gui::renameChrome(*this, "volver", "Image5");
 
-  NDecA_ = selector(*this, 0, "NDecA", "Estrategias del Jugador 1",
-                    "Número de decisiones que puede tomar Jugador 1");
-  NDecB_ = selector(*this, 1, "NDecB", "Estrategias del Jugador 2",
-                    "Número de Decisiones que puede tomar Jugador 2");
-  auto* reshape = new QPushButton("Rediseñar tabla", this);
-  reshape->setObjectName("Rediseñar");
+  NDecA_ = gui::addNumberSelector(*this, 0, 0, "NDecA", "Estrategias del Jugador 1",
+                                  kMaxEstrategias, "Número de decisiones que puede tomar Jugador 1");
+  NDecB_ = gui::addNumberSelector(*this, 1, 0, "NDecB", "Estrategias del Jugador 2",
+                                  kMaxEstrategias, "Número de Decisiones que puede tomar Jugador 2");
+  auto* reshape =
+      gui::redesignButton(*this, [this] { rediseñarTabla(); }, "Rediseñar tabla", "Rediseñar");
   reshape->setToolTip("Ajusta la tabla al número de decisiones deseadas");
-  reshape->setCursor(Qt::PointingHandCursor);
-  reshape->setStyleSheet(
-      "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
-      " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
-      "QPushButton:hover { background: #EDF2F7; }");
-  connect(reshape, &QPushButton::clicked, this, [this] { run([this] { rediseñarTabla(); }); });
   fieldGrid()->addWidget(reshape, 0, 3, 2, 1, Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 
   // The table: player 1's strategies A down the rows, player 2's B across;
   // the column k holds the array Ak, one element per row.
-  auto* frame = new QFrame(this);
-  frame->setObjectName("tabla");
-  frame->setStyleSheet(
-      "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(14, 12, 14, 12);
   grid->setHorizontalSpacing(6);

@@ -2,9 +2,8 @@
 
 #include <QFrame>
 
-#include "decision/electra1_screens.h"  // the pieces of the table screens
+#include "frame/gui/table_screen.h"
 #include "frame/gui/picture_button.h"
-#include "linear_programming/transportes_screens.h"
 
 namespace vorel::linear_programming {
 
@@ -15,24 +14,21 @@ const std::string kSolution = "PL_Asignación_Solución";
 
 AsignacionEntry::AsignacionEntry()
     : ModelEntry(kEntry, "Problemas de Asignación", {}, "Título", "Problema 1") {
-  NumIndividuos_ = addTableSelector(*this, 0, "NumIndividuos", "Individuos", {});
-  NumTareas_ = addTableSelector(*this, 1, "NumTareas", "Tareas", {});
-  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
+  NumIndividuos_ = gui::addNumberSelector(*this, 0, 0, "NumIndividuos", "Individuos", kAsignacionMax, {});
+  NumTareas_ = gui::addNumberSelector(*this, 1, 0, "NumTareas", "Tareas", kAsignacionMax, {});
+  fieldGrid()->addWidget(gui::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
                          Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 
   // The table: individuals down the rows, tasks across.
-  auto* frame = decision::tableFrame(*this);
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(5);
   LblTareas_.create(frame, "LblTareas", 0, kAsignacionMax - 1, [](QWidget* parent) {
-    auto* head = gui::newHeading(parent);
+    auto* head = gui::newColumnHead(parent);
     head->setFixedWidth(84);
-    head->setStyleSheet(
-        "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
-        " background-color: #E2E8F0;");
     return head;
   });
   LblIndividuos_.create(frame, "LblIndividuos", 0, kAsignacionMax - 1, gui::newHeading);
@@ -54,7 +50,7 @@ AsignacionEntry::AsignacionEntry()
   for (int i = 0; i < kAsignacionArrays; ++i)
     for (int j = 1; j <= kAsignacionArrays; ++j) grid->addWidget(columna(j)(i), i + 1, j);
   grid->setColumnStretch(kAsignacionArrays + 1, 1);
-  decision::placeTable(body(), fieldGrid(), frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(AsignacionFields{});
 }
@@ -92,7 +88,7 @@ void AsignacionEntry::setFields(const AsignacionFields& f) {
     LblIndividuos_(k)->setVisible(f.LblIndividuos[static_cast<std::size_t>(k)]);
     LblTareas_(k)->setVisible(f.LblTareas[static_cast<std::size_t>(k)]);
   }
-  decision::fitToTable(*this);
+  gui::fitToTable(*this);
 }
 
 void AsignacionEntry::nuevo() {

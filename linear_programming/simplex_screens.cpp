@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "frame/gui/picture_button.h"
+#include "frame/gui/table_screen.h"
 
 namespace vorel::linear_programming {
 
@@ -79,24 +80,14 @@ SimplexEntry::SimplexEntry()
     top->addWidget(combo, row, 1, Qt::AlignLeft);
     ++row;
   }
-  auto* reshape = new QPushButton("Rediseñar Tabla", this);
-  reshape->setObjectName("RediseñarTabla");
-  reshape->setCursor(Qt::PointingHandCursor);
-  reshape->setStyleSheet(
-      "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
-      " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
-      "QPushButton:hover { background: #EDF2F7; }");
-  connect(reshape, &QPushButton::clicked, this, [this] { run([this] { rediseñarTabla(); }); });
+  auto* reshape = gui::redesignButton(*this, [this] { rediseñarTabla(); });
   top->addWidget(reshape, 1, 3, 2, 1, Qt::AlignLeft | Qt::AlignVCenter);
   top->setColumnMinimumWidth(2, 24);
   top->setColumnStretch(4, 1);
 
   // The table: the objective row and one row per constraint, the variables
   // across, then the relation and the right-hand side.
-  auto* frame = new QFrame(this);
-  frame->setObjectName("tabla");
-  frame->setStyleSheet(
-      "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(14, 12, 14, 12);
   grid->setHorizontalSpacing(6);

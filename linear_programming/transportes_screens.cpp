@@ -4,7 +4,7 @@
 #include <QFrame>
 #include <QPalette>
 
-#include "decision/electra1_screens.h"  // the pieces of the table screens
+#include "frame/gui/table_screen.h"
 
 namespace vorel::linear_programming {
 
@@ -12,54 +12,27 @@ namespace {
 
 const std::string kEntry = "PL_Transportes";
 const std::string kSolution = "PL_Transportes_Solución";
-const QColor kTotalBase(0xEE, 0xF3, 0xFA);
 
 }  // namespace
 
-QComboBox* addTableSelector(gui::EntryScreen& screen, int row, const QString& objectName,
-                            const QString& label, const QString& toolTip) {
-  QStringList items;
-  for (int k = 1; k <= kTransportesMax; ++k) items << QString::number(k);
-  auto* combo = gui::newSelector(&screen, items);
-  combo->setObjectName(objectName);
-  combo->setToolTip(toolTip);
-  combo->setFixedWidth(64);
-  auto* caption = new QLabel(label, &screen);
-  caption->setStyleSheet("font-size: 10pt; color: #1A202C;");
-  caption->setBuddy(combo);
-  screen.fieldGrid()->addWidget(caption, row, 0);
-  screen.fieldGrid()->addWidget(combo, row, 1, Qt::AlignLeft);
-  return combo;
-}
-
-void markTotalCell(QLineEdit* cell, bool total) {
-  QPalette palette = cell->palette();
-  palette.setColor(QPalette::Base,
-                   total ? kTotalBase : QApplication::palette(cell).color(QPalette::Base));
-  cell->setPalette(palette);
-}
-
 TransportesEntry::TransportesEntry()
     : ModelEntry(kEntry, "Problema del Transporte", kTransportesIntro, "Título", "Problema 1") {
-  NumOrigen_ = addTableSelector(*this, 0, "NumOrigen", "Orígenes", "Número de Orígenes");
-  NumDestino_ = addTableSelector(*this, 1, "NumDestino", "Destinos", "Número de Destinos");
-  fieldGrid()->addWidget(decision::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
+  NumOrigen_ = gui::addNumberSelector(*this, 0, 0, "NumOrigen", "Orígenes", kTransportesMax, "Número de Orígenes");
+  NumDestino_ = gui::addNumberSelector(*this, 1, 0, "NumDestino", "Destinos", kTransportesMax, "Número de Destinos");
+  fieldGrid()->addWidget(gui::redesignButton(*this, [this] { rediseñarTabla(); }), 0, 3, 2, 1,
                          Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 
   // The table: origins down the rows and the demands after them; destinations
   // across and the supplies after them.
-  auto* frame = decision::tableFrame(*this);
+  auto* frame = gui::tableFrame(*this);
   auto* grid = new QGridLayout(frame);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(5);
   LblDestino_.create(frame, "LblDestino", 0, kTransportesArrays - 1, [](QWidget* parent) {
-    auto* head = gui::newHeading(parent);
+    auto* head = gui::newColumnHead(parent);
     head->setFixedWidth(84);
-    head->setStyleSheet(
-        "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
-        " background-color: #E2E8F0;");
     return head;
   });
   LblOrigen_.create(frame, "LblOrigen", 0, kTransportesArrays - 1, gui::newHeading);
@@ -78,7 +51,7 @@ TransportesEntry::TransportesEntry()
     for (int j = 1; j <= kTransportesArrays; ++j) grid->addWidget(columna(j)(k), k + 1, j);
   }
   grid->setColumnStretch(kTransportesArrays + 1, 1);
-  decision::placeTable(body(), fieldGrid(), frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(TransportesFields{});
 }
@@ -118,10 +91,10 @@ void TransportesEntry::setFields(const TransportesFields& f) {
       QLineEdit* cell = columna(j)(i);
       cell->setText(QString::fromStdString(c.text));
       cell->setVisible(c.visible);
-      markTotalCell(cell, f.LblDestino[static_cast<std::size_t>(j - 1)].caption == "Existencias" ||
+      gui::markTotalCell(cell, f.LblDestino[static_cast<std::size_t>(j - 1)].caption == "Existencias" ||
                               f.LblOrigen[static_cast<std::size_t>(i)].caption == "Demandas");
     }
-  decision::fitToTable(*this);
+  gui::fitToTable(*this);
 }
 
 void TransportesEntry::nuevo() {

@@ -17,16 +17,6 @@
 
 namespace vorel::linear_programming {
 
-// Pieces of the two table screens of this section without a simplex of their
-// own (transportation and assignment).
-
-// A selector with the items "1" to "7", its caption and its tool-tip, at
-// `row` of the fields' grid.
-QComboBox* addTableSelector(gui::EntryScreen& screen, int row, const QString& objectName,
-                            const QString& label, const QString& toolTip);
-// Paints a cell as data (white) or as a total of the table (tinted).
-void markTotalCell(QLineEdit* cell, bool total);
-
 class TransportesEntry : public gui::ModelEntry<TransportesFields> {
   Q_OBJECT
 public:

@@ -1,0 +1,94 @@
+#include "frame/gui/table_screen.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPalette>
+
+#include "frame/gui/control_array.h"
+
+namespace vorel::gui {
+
+void renameChrome(QWidget& screen, const QString& from, const QString& to) {
+  if (auto* button = screen.findChild<QAbstractButton*>(from)) button->setObjectName(to);
+}
+
+int gridRow(QGridLayout* grid, QWidget* w) {
+  int row = 0, column = 0, rowSpan = 0, columnSpan = 0;
+  grid->getItemPosition(grid->indexOf(w), &row, &column, &rowSpan, &columnSpan);
+  return row;
+}
+
+QComboBox* addNumberSelector(EntryScreen& screen, int row, int column, const QString& objectName,
+                             const QString& label, int count, const QString& toolTip) {
+  QStringList items;
+  for (int k = 1; k <= count; ++k) items << QString::number(k);
+  auto* combo = newSelector(&screen, items);
+  combo->setObjectName(objectName);
+  combo->setToolTip(toolTip);
+  combo->setFixedWidth(64);
+  auto* caption = new QLabel(label, &screen);
+  caption->setStyleSheet("font-size: 10pt; color: #1A202C;");
+  caption->setBuddy(combo);
+  screen.fieldGrid()->addWidget(caption, row, column);
+  screen.fieldGrid()->addWidget(combo, row, column + 1, Qt::AlignLeft);
+  return combo;
+}
+
+QPushButton* redesignButton(QWidget& screen, std::function<void()> handler, const QString& text,
+                            const QString& objectName) {
+  auto* button = new QPushButton(text, &screen);
+  button->setObjectName(objectName);
+  button->setCursor(Qt::PointingHandCursor);
+  button->setStyleSheet(
+      "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
+      " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
+      "QPushButton:hover { background: #EDF2F7; }");
+  QObject::connect(button, &QPushButton::clicked, &screen,
+                   [handler = std::move(handler)] { Screen::run(handler); });
+  return button;
+}
+
+QFrame* tableFrame(QWidget& screen) {
+  auto* frame = new QFrame(&screen);
+  frame->setObjectName("tabla");
+  frame->setStyleSheet(
+      "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
+  return frame;
+}
+
+void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
+  table->layout()->setContentsMargins(14, 12, 14, 12);
+  body->insertWidget(body->indexOf(fieldGrid) + 1, table);
+}
+
+void fitToTable(QWidget& screen) {
+  if (auto* layout = screen.layout()) layout->activate();
+  screen.adjustSize();
+}
+
+QLabel* newColumnHead(QWidget* parent) {
+  auto* head = newHeading(parent);
+  paintColumnHead(head, QColor(0xE2, 0xE8, 0xF0));
+  return head;
+}
+
+void paintColumnHead(QLabel* head, const QColor& background) {
+  head->setStyleSheet(QStringLiteral("font-weight: 600; color: #2D3748; border-radius: 3px;"
+                                     " padding: 3px 2px; background-color: %1;")
+                          .arg(background.name()));
+}
+
+QColor platformColor(long backColor) {
+  const auto bytes = static_cast<unsigned long>(backColor);
+  return QColor(static_cast<int>(bytes & 0xFF), static_cast<int>((bytes >> 8) & 0xFF),
+                static_cast<int>((bytes >> 16) & 0xFF));
+}
+
+void markTotalCell(QLineEdit* cell, bool total) {
+  QPalette palette = cell->palette();
+  palette.setColor(QPalette::Base, total ? QColor(0xEE, 0xF3, 0xFA)
+                                         : QApplication::palette(cell).color(QPalette::Base));
+  cell->setPalette(palette);
+}
+
+}  // namespace vorel::gui
