@@ -3,9 +3,11 @@
 #include "tests/gui_support.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTest>
 
+#include "frame/gui/model_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/problem_file.h"
 #include "tests/test_support.h"
@@ -94,6 +96,32 @@ QString ScreenTest::text(const std::string& name, const QString& control) {
   if (!s) return "<not loaded>";
   auto* box = s->findChild<QLineEdit*>(control);
   return box ? box->text() : "<no such box>";
+}
+
+QString ScreenTest::focused(const std::string& name) {
+  auto* s = screen(name);
+  QWidget* w = s ? s->focusWidget() : nullptr;
+  return w ? w->objectName() : QStringLiteral("<none>");
+}
+
+void ScreenTest::openFile(const std::string& entry, const QString& path) {
+  if (!screen(entry)) screens().show(entry);
+  platform.openAnswers.push_back(path);
+  press(entry, "abrir");
+}
+
+std::string ScreenTest::painted(const std::string& solution) {
+  auto* s = dynamic_cast<gui::SolutionScreen*>(screen(solution));
+  return s ? s->Solucion1()->plainText() : "<no solution screen>";
+}
+
+QString examplePath(const std::string& id, const QString& file) {
+  return QStringLiteral(VOREL_SOURCE_DIR "/examples/%1/%2").arg(QString::fromStdString(id), file);
+}
+
+std::string golden(const std::string& id, const QString& file, const char* kind) {
+  return readBytes(std::string(VOREL_SOURCE_DIR) + "/tests/golden/" + id + "/" +
+                   QFileInfo(file).completeBaseName().toStdString() + "." + kind);
 }
 
 void wait(int ms) {

@@ -64,9 +64,30 @@ protected:
   void press(const std::string& name, const QString& control);
   void type(const std::string& name, const QString& control, const QString& text);
   QString text(const std::string& name, const QString& control);
+  // A control of a loaded screen, or null.
+  template <class W = QWidget>
+  W* control(const std::string& name, const QString& object) {
+    auto* s = screen(name);
+    return s ? s->findChild<W*>(object) : nullptr;
+  }
+  // Whether a control is shown on its screen (not hidden by the program).
+  bool shown(const std::string& name, const QString& object) {
+    auto* w = control(name, object);
+    return w && !w->isHidden();
+  }
+  // The object name of the control that has the focus of a screen.
+  QString focused(const std::string& name);
+  // Shows the entry screen if needed and opens `path` through abrir.
+  void openFile(const std::string& entry, const QString& path);
+  // The report painted on a solution screen, as plain text.
+  std::string painted(const std::string& solution);
 
   ScriptedPlatform platform;
 };
+
+// The example problems of a model and their golden texts (tests/golden_test.cpp).
+QString examplePath(const std::string& id, const QString& file);
+std::string golden(const std::string& id, const QString& file, const char* kind);
 
 // Runs the event loop for `ms` milliseconds.
 void wait(int ms);
