@@ -72,21 +72,18 @@ QPainter& beginIfNeeded() {
   return *d.painter;
 }
 
-// Prints line by line, going on to a new page at the bottom of the page.
-void printLines(const Report& page) {
+}  // namespace
+
+void printReport(const Report& page) {
   Document& d = document();
   QPainter& painter = beginIfNeeded();
   auto* printer = static_cast<QPrinter*>(painter.device());
   d.y = paintReport(painter, page, d.y, [printer] { printer->newPage(); });
 }
 
-}  // namespace
-
-void printReport(const Report& page) { printLines(page); }
-
 void printChartPage(const Report& page, const QImage& chart, double leftFraction,
                     double topFraction) {
-  printLines(page);
+  printReport(page);
   QPainter& painter = *document().painter;
   const QRect area = painter.viewport();
   // The picture keeps its size on paper: its pixels are taken at screen resolution.
