@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 
 #include "frame/gui/printing.h"
 
@@ -13,9 +14,17 @@ public:
 
   void setReport(const Report& report) {
     report_ = report;
+    // The canvas grows to the report, so the box scrolls where it cannot show it all.
     const QFontMetricsF m(font());
-    const int lines = static_cast<int>(vorel::layout(report_, 1, [](const std::string&) { return 0.0; }).size());
-    setMinimumHeight(static_cast<int>(m.lineSpacing() * (lines + 1)));
+    auto width = [&m](const std::string& s) {
+      return m.horizontalAdvance(QString::fromStdString(s));
+    };
+    double widest = 0;
+    const auto lines = vorel::layout(report_, kZoneColumns * averageCharWidth(m), width);
+    for (const LaidOutLine& line : lines)
+      if (!line.empty()) widest = std::max(widest, line.back().x + width(line.back().text));
+    setMinimumSize(static_cast<int>(widest) + 8,
+                   static_cast<int>(m.lineSpacing() * (double(lines.size()) + 1)));
     update();
   }
   const Report& report() const { return report_; }
@@ -38,11 +47,14 @@ ReportBox::ReportBox(const QString& objectName, int columns, int lines, QWidget*
   setObjectName(objectName);
   setWidget(canvas_);
   setWidgetResizable(true);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setStyleSheet("QScrollArea { border: 1px solid #CBD2DC; background: white; }");
   const QFontMetricsF m(reportFont(kScreenPointSize));
-  setFixedSize(static_cast<int>(m.averageCharWidth() * columns) + 24,
+  // Wide enough for the rule of every report, a zone in.
+  const double rule = (kZoneColumns + 2) * averageCharWidth(m) +
+                      m.horizontalAdvance(QString::fromStdString(kRule));
+  setFixedSize(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24,
                static_cast<int>(m.lineSpacing() * lines) + 8);
 }
 
