@@ -124,11 +124,9 @@ TEST_F(Electra1Screens, ComingBackRecomputesFromTheFieldsAsTheyStand) {
   type(kEntry, "IndiceConcordancia", "1");
   type(kEntry, "IndiceDiscordancia", "0");
   press(kEntry, "Resolver");
-  // No alternative wins every criterion: nothing outranks, all are in the kernel.
-  const std::string text = painted(kSolution);
-  EXPECT_NE(text.find("No existen alternativas sobreclasificadas"), std::string::npos);
-  for (const char* line : {"Alternativa 1 ", "Alternativa 2 ", "Alternativa 3 ", "Alternativa 4 "})
-    EXPECT_NE(text.find(line), std::string::npos) << line;
+  // No alternative wins every criterion: nothing outranks.
+  EXPECT_NE(painted(kSolution).find("No existen alternativas sobreclasificadas"),
+            std::string::npos);
 }
 
 // RediseñarTabla shows NA alternatives and the weights after them, over NC
