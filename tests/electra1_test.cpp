@@ -198,18 +198,13 @@ TEST(Electra1, RunTimeErrorsOfTheSolve) {
   const Tabla cruzada = {{"2", "1"}, {"1", "2"}};
   Electra1Fields sinCombo = libro();
   sinCombo.NumCriterios = -1;
-  struct Case {
-    const char* name;
-    Electra1Fields fields;
-    int error;
-  } cases[] = {
-      {"escala cero con una preferencia estricta", problema(cruzada, {"1", "1"}, "0"),
-       err::DivisionByZero},
-      {"todos los pesos cero", problema(cruzada, {"0", "0"}), err::Overflow},
-      {"pesos que suman cero", problema(cruzada, {"1", "-1"}), err::Overflow},
-      {"combo vacío", sinCombo, err::TypeMismatch},
+  const std::pair<Electra1Fields, int> cases[] = {
+      {problema(cruzada, {"1", "1"}, "0"), err::DivisionByZero},  // a strict preference over E 0
+      {problema(cruzada, {"0", "0"}), err::Overflow},             // weights 0 / 0
+      {problema(cruzada, {"1", "-1"}), err::Overflow},            // weights summing to zero
+      {sinCombo, err::TypeMismatch},                              // an empty combo
   };
-  for (Case& c : cases) EXPECT_EQ(errorDe([&] { solve(c.fields); }), c.error) << c.name;
+  for (const auto& [f, error] : cases) EXPECT_EQ(errorDe([&] { solve(f); }), error);
   // With no strict preference anywhere there is nothing to divide by E.
   EXPECT_EQ(sobreclasifica(solve(problema({{"3", "3"}, {"1", "1"}}, {"1", "1"}, "0"))), "12 21 |");
 }
@@ -252,27 +247,22 @@ TEST(Electra1, FileItemsInOrderAndHiddenTextsTravel) {
 TEST(Electra1, AFileReadStopsAtAnItemThatDoesNotFit) {
   std::string sieteCeldas;
   for (int j = 0; j < 7; ++j) sieteCeldas += "\"1\"\r\n#TRUE#\r\n";
-  struct Case {
-    const char* name;
-    std::string file;
-    int na;  // what the read stored before it stopped
-  } cases[] = {
-      {"alternativas fuera de la lista", "\"T\"\r\n2\r\n6\r\n\"10\"\r\n", 3},
-      {"criterios fuera de la lista", "\"T\"\r\n7\r\n", 3},
-      {"combo vacío", "\"T\"\r\n-1\r\n-1\r\n\"1\"\r\n", -1},
-      {"color no numérico",
-       "\"T\"\r\n3\r\n3\r\n\"\"\r\n\"\"\r\n\"\"\r\n#TRUE#\r\n" + sieteCeldas +
+  // A file that stops at an item, and the alternatives' combo as the read left it.
+  const std::pair<std::string, int> cases[] = {
+      {"\"T\"\r\n2\r\n6\r\n\"10\"\r\n", 3},    // alternatives beyond the list
+      {"\"T\"\r\n7\r\n", 3},                   // criteria beyond the list
+      {"\"T\"\r\n-1\r\n-1\r\n\"1\"\r\n", -1},  // empty combos read; the file ends
+      {"\"T\"\r\n3\r\n3\r\n\"\"\r\n\"\"\r\n\"\"\r\n#TRUE#\r\n" + sieteCeldas +
            "#TRUE#\r\n\"A\"\r\nazul\r\n",
-       3},
+       3},  // a colour that is no number
   };
-  for (Case& c : cases) {
+  for (const auto& [file, na] : cases) {
     const std::string path = testing::tempPath("electra.txt");
-    testing::writeBytes(path, c.file);
+    testing::writeBytes(path, file);
     Electra1Fields f;
-    f.Título = "antes";
-    EXPECT_FALSE(openProblem(path, [&](ProblemFile& p) { exchange(p, f); })) << c.name;
-    EXPECT_EQ(f.Título, "T") << c.name;
-    EXPECT_EQ(f.NumAlternativas, c.na) << c.name;
+    EXPECT_FALSE(openProblem(path, [&](ProblemFile& p) { exchange(p, f); })) << file;
+    EXPECT_EQ(f.Título, "T");
+    EXPECT_EQ(f.NumAlternativas, na) << file;
   }
 }
 

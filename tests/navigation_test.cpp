@@ -338,11 +338,6 @@ TEST(Navigation, EveryNameReferredToIsAScreen) {
     SCOPED_TRACE(s.name);
     EXPECT_TRUE(s.volver.empty() || resolves(s.volver)) << s.volver;
     EXPECT_EQ(s.kind == Kind::Entry, !s.solutions.empty());
-    for (const std::string& sol : s.solutions) {
-      ASSERT_TRUE(resolves(sol)) << sol;
-      EXPECT_EQ(findScreen(sol)->kind, Kind::Solution);
-      EXPECT_EQ(findScreen(sol)->entry, s.name);
-    }
   }
   for (const MenuInfo& m : menus())
     for (const MenuChoice& c : m.choices)
@@ -353,37 +348,17 @@ TEST(Navigation, EveryNameReferredToIsAScreen) {
 }
 
 TEST(Navigation, CerrarEndsTheProcessOnExactlyTheListedScreens) {
-  const std::set<std::string> ends = {"ControlCal",
-                                      "Juegos",
-                                      "SelecEquipos",
-                                      "Localizacion_CG",
-                                      "Localizacion_CG_Solucion",
-                                      "Localizacion_PF",
-                                      "Localizacion_PF_Solucion",
-                                      "Selec_Pond",
-                                      "Selec_Pond_Solucion",
-                                      "Selec_Van",
-                                      "Selec_Van_Solucion",
-                                      "Select_C_Totales",
-                                      "Select_C_Totales_Sol1",
-                                      "ControlCal_V",
-                                      "ControlCal_V_Sol",
-                                      "ControlCal_V_Sol2",
-                                      "ControlCal_V_Sol3",
-                                      "ControlCal_AtribP",
-                                      "ControlCAl_AtribP_Sol",
-                                      "ControlCal_AtribNP_Sol",
-                                      "ControlCal_NDef",
-                                      "ControlCal_NDef_Sol",
-                                      "ControlCal_NDef_Sol1",
-                                      "C_Experiencia",
-                                      "C_Experiencia_Sol",
-                                      "GI_MRP",
-                                      "GI_MRP_Solucion1",
-                                      "Juegos_2",
-                                      "Juegos_2_Solucion",
-                                      "Juegos_3",
-                                      "Juegos_3_Solucion"};
+  // clang-format off
+  const std::set<std::string> ends = {
+      "ControlCal", "Juegos", "SelecEquipos", "Localizacion_CG", "Localizacion_CG_Solucion",
+      "Localizacion_PF", "Localizacion_PF_Solucion", "Selec_Pond", "Selec_Pond_Solucion",
+      "Selec_Van", "Selec_Van_Solucion", "Select_C_Totales", "Select_C_Totales_Sol1",
+      "ControlCal_V", "ControlCal_V_Sol", "ControlCal_V_Sol2", "ControlCal_V_Sol3",
+      "ControlCal_AtribP", "ControlCAl_AtribP_Sol", "ControlCal_AtribNP_Sol", "ControlCal_NDef",
+      "ControlCal_NDef_Sol", "ControlCal_NDef_Sol1", "C_Experiencia", "C_Experiencia_Sol",
+      "GI_MRP", "GI_MRP_Solucion1", "Juegos_2", "Juegos_2_Solucion", "Juegos_3",
+      "Juegos_3_Solucion"};
+  // clang-format on
   std::set<std::string> actual;
   for (const ScreenInfo& s : screens()) {
     if (s.cerrar == Cerrar::EndProcess) actual.insert(s.name);
