@@ -48,27 +48,30 @@ std::string kept(const AsignacionResults& r) {
   return out.str();
 }
 
+void expectShape(const AsignacionFields& f, int individuos, int tareas) {
+  for (int i = 0; i < 8; ++i)
+    for (int j = 0; j < 8; ++j) EXPECT_EQ(f.C[j][i].visible, i < individuos && j < tareas);
+  for (int k = 0; k < 7; ++k) {
+    EXPECT_EQ(f.LblIndividuos[k], k < individuos);
+    EXPECT_EQ(f.LblTareas[k], k < tareas);
+  }
+}
+
 TEST(Asignacion, RediseñarShowsTheChosenTableAndNuevoBringsBackTheDefault) {
   AsignacionFields f;
-  EXPECT_TRUE(f.C[1][1].visible);
-  EXPECT_FALSE(f.C[2][0].visible);
+  expectShape(f, 2, 2);
   f.C[0][0].text = "9";
   f.NumIndividuos = 4;
   f.NumTareas = 2;
   rediseñar(f);
-  for (int i = 0; i < 8; ++i)
-    for (int j = 0; j < 8; ++j) EXPECT_EQ(f.C[j][i].visible, i < 5 && j < 3);
-  for (int k = 0; k < 7; ++k) {
-    EXPECT_EQ(f.LblIndividuos[k], k < 5);
-    EXPECT_EQ(f.LblTareas[k], k < 3);
-  }
+  expectShape(f, 5, 3);
   EXPECT_EQ(f.C[0][0].text, "9");
   f.Título = "Mío";
   nuevo(f);
+  expectShape(f, 2, 2);
   EXPECT_EQ(f.Título, "Mío");
   EXPECT_EQ(f.C[0][0].text, "");
   EXPECT_EQ(f.NumTareas, 1);
-  EXPECT_FALSE(f.C[2][0].visible);
 }
 
 TEST(Asignacion, CheckTellsEveryBadCellWithItsColumnsWording) {
