@@ -38,26 +38,21 @@ int errorDe(const std::function<void()>& run) {
   return 0;
 }
 
+// The screen tests reshape through the shapes; here the rule over all cells, and the empty combo.
 TEST(JuegosN, RediseñarShowsArraysUpToN2AndElementsUpToN1AndKeepsTexts) {
-  EXPECT_EQ(textoCombo(JuegosNFields{}.NDecA), "2");  // the first load is two by two
-  for (auto [n1, n2] : {std::pair{2, 2}, {3, 5}, {8, 1}, {1, 8}, {8, 8}}) {
-    JuegosNFields f;
-    f.A8[7].text = "7";
-    if (n1 != 2 || n2 != 2) {
-      f.NDecA = n1 - 1;
-      f.NDecB = n2 - 1;
-      rediseñar(f);
-    }
-    for (int i = 0; i < 8; ++i) {
-      EXPECT_EQ(f.A[i], i < n1);
-      EXPECT_EQ(f.B[i], i < n2);
-      for (int k = 1; k <= 8; ++k) EXPECT_EQ(f.array(k)[i].visible, k <= n2 && i < n1) << k << i;
-    }
-    EXPECT_EQ(f.A8[7].text, "7");
+  JuegosNFields f;
+  f.A8[7].text = "7";
+  f.NDecA = 2;  // three strategies for player 1
+  f.NDecB = 4;  // five for player 2
+  rediseñar(f);
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(f.A[i], i < 3);
+    EXPECT_EQ(f.B[i], i < 5);
+    for (int k = 1; k <= 8; ++k) EXPECT_EQ(f.array(k)[i].visible, k <= 5 && i < 3) << k << i;
   }
-  JuegosNFields vacio;
-  vacio.NDecB = -1;  // an empty combo is no number
-  EXPECT_EQ(errorDe([&] { rediseñar(vacio); }), err::TypeMismatch);
+  EXPECT_EQ(f.A8[7].text, "7");
+  f.NDecB = -1;  // an empty combo is no number
+  EXPECT_EQ(errorDe([&] { rediseñar(f); }), err::TypeMismatch);
 }
 
 TEST(JuegosN, ChecksStopAtTheFirstBadVisibleCellInReadOrder) {
@@ -89,10 +84,10 @@ TEST(JuegosN, ChecksStopAtTheFirstBadVisibleCellInReadOrder) {
 }
 
 TEST(JuegosN, MorePlayerTwoStrategiesEndInASubscriptError) {
-  // The read reaches A3(0) for Tabla(2, 0), beyond player 1's two rows.
+  // The read reaches A3(0) for Tabla(2, 0), beyond player 1's two rows; a bad cell met before
+  // that one is still told.
   JuegosNFields f = juego(2, 3, {{"1", "2"}, {"3", "4"}, {"5", "6"}});
   EXPECT_EQ(errorDe([&] { check(f); }), err::Subscript);
-  // A bad cell met before that cell is still told.
   f.A2[0].text = "";
   EXPECT_EQ(check(f), (Messages{{"Debe completar la tabla de resultados", "A2(0)"}}));
 }
