@@ -21,10 +21,6 @@ inline constexpr long kColorPonderacion = 0xFFC0C0;
 // The entry screen DecisionElectra1. Rows of the table are criteria, columns
 // are alternatives, and the column after the last alternative holds the weights.
 struct Electra1Fields {
-  struct Celda {
-    std::string text;
-    bool visible = false;
-  };
   struct Cabecera {
     bool visible = false;
     std::string caption;
@@ -35,7 +31,7 @@ struct Electra1Fields {
   int NumAlternativas = 3;  // list index of the combo "1" to "6"; -1 when empty
   int NumCriterios = 3;     // list index of the combo "1" to "7"; -1 when empty
   std::string escalaValoracion, IndiceConcordancia, IndiceDiscordancia;
-  std::array<std::array<Celda, 7>, 7> C;  // C[j - 1][i] is the cell Cj(i)
+  std::array<std::array<Cell, 7>, 7> C;  // C[j - 1][i] is the cell Cj(i)
   std::array<bool, 7> LblCriterios{};     // visibility of the row heads
   std::array<Cabecera, 7> LblAlternativas;
 

@@ -16,16 +16,12 @@ inline constexpr int kMaxEstados = 7;
 // The entry screen DecisionIncertidumbre. Rows are alternatives, columns are
 // states of nature: C[j - 1][i] is the cell Cj(i), state j for alternative i+1.
 struct IncertidumbreFields {
-  struct Celda {
-    std::string text;
-    bool visible = false;
-  };
 
   std::string Título = "Problema 1";
   int NumAlternativas = 3;  // list index of the combo "1" to "7"; -1 when empty
   int NumEstados = 3;       // list index of the combo "1" to "7"; -1 when empty
   std::string Alfa;         // Hurwicz coefficient, optional
-  std::array<std::array<Celda, 7>, 7> C;
+  std::array<std::array<Cell, 7>, 7> C;
   std::array<bool, 7> LblEstados{};       // visibility of the column heads
   std::array<bool, 7> LblAlternativas{};  // visibility of the row heads
 

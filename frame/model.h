@@ -10,6 +10,13 @@
 
 namespace vorel {
 
+// A text box of an entry screen's table, an element of a control array: its
+// text and whether it is shown. Hidden cells keep what they hold.
+struct Cell {
+  std::string text;
+  bool visible = false;
+};
+
 // A validation message. `focus` names the control that takes focus ("X1(0)"
 // for an element of a control array), or is empty where no focus is set.
 struct Message {

@@ -26,7 +26,7 @@ Messages leer(const JuegosNFields& f, Tabla& tabla) {
   tabla.assign(static_cast<std::size_t>(n1), std::vector<double>(static_cast<std::size_t>(n2), 0));
   for (int i = 0; i < n2; ++i) {
     for (int k = 1; k <= kMaxEstrategias; ++k) {
-      const JuegosNFields::Celda& c = item(f.array(k), i);
+      const Cell& c = item(f.array(k), i);
       if (!c.visible) continue;
       const std::string focus = element("A" + std::to_string(k), i);
       if (!IsNumeric(c.text)) return {{kIncompleta, focus}};
@@ -258,7 +258,7 @@ void exchange(ProblemFile& file, JuegosNFields& f) {
     file.flag(item(f.A, i));
     file.flag(item(f.B, i));
     for (int k = 1; k <= kMaxEstrategias; ++k) {
-      JuegosNFields::Celda& c = item(f.array(k), i);
+      Cell& c = item(f.array(k), i);
       file.flag(c.visible);
       file.text(c.text);
     }

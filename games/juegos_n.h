@@ -17,11 +17,7 @@ inline constexpr int kMaxEstrategias = 8;
 // The entry screen Juegos_n. The cells shown are the arrays A1 to An2, each
 // with its elements 0 to n1-1; hidden cells keep what they hold.
 struct JuegosNFields {
-  struct Celda {
-    std::string text;
-    bool visible = false;
-  };
-  using Celdas = std::array<Celda, kMaxEstrategias>;
+  using Celdas = std::array<Cell, kMaxEstrategias>;
 
   std::string Título = "Problema 1";
   int NDecA = 1;  // list index of the combo "1" to "8" (strategies of player 1); -1 when empty

@@ -14,7 +14,7 @@ int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex, kMax)
 
 void layOut(AsignacionFields& f, int individuos, int tareas) {
   for (auto& column : f.C)
-    for (AsignacionCell& cell : column) cell.visible = false;
+    for (Cell& cell : column) cell.visible = false;
   f.LblIndividuos.fill(false);
   f.LblTareas.fill(false);
   for (int i = 0; i < individuos; ++i)

@@ -15,11 +15,6 @@ namespace vorel::linear_programming {
 inline constexpr int kAsignacionMax = 7;     // individuals, tasks
 inline constexpr int kAsignacionArrays = 8;  // C1..C8, and rows 0..7 of each
 
-struct AsignacionCell {
-  std::string text;
-  bool visible = false;
-};
-
 // The entry screen PL_Asignación. C[j][i] is the cell C<j+1>(i): the cost of
 // individual i+1 doing task j+1. The headings are "Individuo 1".. and
 // "Tarea 1".. (see asignacionHeading); only their visibility changes.
@@ -29,7 +24,7 @@ struct AsignacionFields {
   std::string Título = "Problema 1";
   int NumIndividuos = 1;  // list index of "1".."7"; -1 when nothing is chosen
   int NumTareas = 1;
-  std::array<std::array<AsignacionCell, kAsignacionArrays>, kAsignacionArrays> C;
+  std::array<std::array<Cell, kAsignacionArrays>, kAsignacionArrays> C;
   std::array<bool, kAsignacionMax> LblIndividuos{}, LblTareas{};  // Visible
 };
 

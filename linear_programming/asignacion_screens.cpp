@@ -79,7 +79,7 @@ void AsignacionEntry::setFields(const AsignacionFields& f) {
   NumTareas_->setCurrentIndex(f.NumTareas);
   for (int i = 0; i < kAsignacionArrays; ++i)
     for (int j = 1; j <= kAsignacionArrays; ++j) {
-      const AsignacionCell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
+      const Cell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
       QLineEdit* cell = columna(j)(i);
       cell->setText(QString::fromStdString(c.text));
       cell->setVisible(c.visible);

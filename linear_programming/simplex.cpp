@@ -32,7 +32,7 @@ void formLoadShape(SimplexFields& f) {
     f.existencias[i].visible = false;
   }
   for (int j = 2; j < kSimplexMax; ++j)
-    for (SimplexCell& cell : f.X[j]) cell.visible = false;
+    for (Cell& cell : f.X[j]) cell.visible = false;
 }
 
 const std::string& cell(const SimplexFields& f, int column, int row) {
@@ -46,6 +46,9 @@ bool among(const std::string& name, const std::array<std::string, kSimplexMax>& 
 }  // namespace
 
 SimplexFields::SimplexFields() {
+  for (auto& column : X)
+    for (Cell& c : column) c.visible = true;
+  for (Cell& c : existencias) c.visible = true;
   LblFactores.fill(true);
   Lblrestriccion.fill(true);
   formLoadShape(*this);
@@ -62,8 +65,8 @@ std::string relationText(int listIndex) {
 
 void rediseñarTabla(SimplexFields& f) {
   for (auto& column : f.X)
-    for (SimplexCell& c : column) c.visible = false;
-  for (SimplexCell& c : f.existencias) c.visible = false;
+    for (Cell& c : column) c.visible = false;
+  for (Cell& c : f.existencias) c.visible = false;
   for (int i = 0; i < kSimplexMax; ++i) {
     f.restriccion[i].visible = false;
     f.LblFactores[i] = false;
@@ -85,8 +88,8 @@ void rediseñarTabla(SimplexFields& f) {
 
 void nuevo(SimplexFields& f) {
   for (auto& column : f.X)
-    for (SimplexCell& c : column) c = {"", true};
-  for (SimplexCell& c : f.existencias) c = {"", true};
+    for (Cell& c : column) c = {"", true};
+  for (Cell& c : f.existencias) c = {"", true};
   for (SimplexRelation& r : f.restriccion) r.ListIndex = 0;
   f.NumFactores = 1;
   f.Numrestricciones = 1;
@@ -97,7 +100,7 @@ void nuevo(SimplexFields& f) {
 Messages check(const SimplexFields& f) {
   std::vector<CellCheck> cells;
   for (int j = 0; j < kSimplexMax; ++j) {
-    const SimplexCell& c = f.X[j][0];
+    const Cell& c = f.X[j][0];
     if (!c.visible) continue;
     const bool lowerCase = j == 4 || j == 6;  // X5 and X7
     cells.push_back({c.text, element(nombreX[j], 0),

@@ -15,11 +15,6 @@ namespace vorel::linear_programming {
 inline constexpr int kSimplexMax = 7;   // variables, constraints
 inline constexpr int kSimplexRows = 8;  // X1..X7 have cells 0 (objective) to 7
 
-struct SimplexCell {
-  std::string text;
-  bool visible = true;
-};
-
 struct SimplexRelation {
   int ListIndex = 0;  // "<=", ">=", "="; -1 when nothing is chosen
   bool visible = true;
@@ -35,9 +30,9 @@ struct SimplexFields {
   int funcionObjetivo = 0;   // list index: 0 "Maximización", 1 "Minimización"
   int NumFactores = 1;       // list index of "1".."7": the number of variables
   int Numrestricciones = 1;  // list index of "1".."7": the number of constraints
-  std::array<std::array<SimplexCell, kSimplexRows>, kSimplexMax> X;
+  std::array<std::array<Cell, kSimplexRows>, kSimplexMax> X;
   std::array<SimplexRelation, kSimplexMax> restriccion;
-  std::array<SimplexCell, kSimplexRows> existencias;
+  std::array<Cell, kSimplexRows> existencias;
   std::array<bool, kSimplexMax> LblFactores{};     // Visible of the variable headings
   std::array<bool, kSimplexMax> Lblrestriccion{};  // Visible of the row headings
 };

@@ -16,7 +16,7 @@ int selectorValue(int listIndex) { return CInt(Val(selectorText(listIndex, kTran
 // the headings; everything else is hidden, and no cell is blanked.
 void layOut(TransportesFields& f, int m, int n) {
   for (auto& column : f.C)
-    for (TransportesCell& cell : column) cell.visible = false;
+    for (Cell& cell : column) cell.visible = false;
   for (TransportesLabel& l : f.LblOrigen) l.visible = false;
   for (TransportesLabel& l : f.LblDestino) l.visible = false;
   for (int i = 0; i <= m; ++i)
@@ -64,7 +64,7 @@ Messages check(const TransportesFields& f) {
   Messages messages;
   for (int i = 0; i < kArrays; ++i)
     for (int j = 0; j < kArrays; ++j) {
-      const TransportesCell& cell = f.C[j][i];
+      const Cell& cell = f.C[j][i];
       if (cell.visible && !IsNumeric(cell.text))
         messages.push_back({"Debe Completar la tabla de Costes Unitarios de Transporte",
                             element("C" + std::to_string(j + 1), i)});

@@ -15,11 +15,6 @@ namespace vorel::linear_programming {
 inline constexpr int kTransportesMax = 7;     // origins, destinations
 inline constexpr int kTransportesArrays = 8;  // C1..C8, and rows 0..7 of each
 
-struct TransportesCell {
-  std::string text;
-  bool visible = false;
-};
-
 struct TransportesLabel {
   std::string caption;
   bool visible = false;
@@ -34,7 +29,7 @@ struct TransportesFields {
   std::string Título = "Problema 1";
   int NumOrigen = 1;  // list index of "1".."7"; -1 when nothing is chosen
   int NumDestino = 1;
-  std::array<std::array<TransportesCell, kTransportesArrays>, kTransportesArrays> C;
+  std::array<std::array<Cell, kTransportesArrays>, kTransportesArrays> C;
   std::array<TransportesLabel, kTransportesArrays> LblOrigen, LblDestino;
 };
 

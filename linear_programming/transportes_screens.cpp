@@ -87,7 +87,7 @@ void TransportesEntry::setFields(const TransportesFields& f) {
   // The demands' row and the supplies' column are the ones whose heads say so.
   for (int j = 1; j <= kTransportesArrays; ++j)
     for (int i = 0; i < kTransportesArrays; ++i) {
-      const TransportesCell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
+      const Cell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
       QLineEdit* cell = columna(j)(i);
       cell->setText(QString::fromStdString(c.text));
       cell->setVisible(c.visible);

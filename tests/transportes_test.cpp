@@ -77,7 +77,7 @@ TEST(Transportes, NuevoBlanksEverythingButTheTitle) {
   EXPECT_EQ(f.Título, "Mío");
   expectShape(f, 2, 2);
   for (const auto& column : f.C)
-    for (const TransportesCell& cell : column) EXPECT_EQ(cell.text, "");
+    for (const Cell& cell : column) EXPECT_EQ(cell.text, "");
 }
 
 TEST(Transportes, CheckTellsEveryNonNumericVisibleCellInRowOrder) {
