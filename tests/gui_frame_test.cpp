@@ -36,7 +36,7 @@ TEST_F(FrameTest, StartScreenGivesWayToTheMainMenuAfterTwoSeconds) {
   wait(1700);
   EXPECT_TRUE(visible("AInicio"));
   EXPECT_FALSE(visible("APrincipal"));
-  wait(600);
+  wait(1000);
   EXPECT_FALSE(visible("AInicio"));
   EXPECT_TRUE(visible("APrincipal"));
   EXPECT_FALSE(timer->isActive());
