@@ -7,20 +7,14 @@
 #include <vector>
 
 #include "frame/arith.h"
+#include "tests/test_support.h"
 
 namespace vorel::linear_programming {
 namespace {
 
 // Costs as typed after RediseñarTabla, from "5 3 | 3 5": a row per individual.
 AsignacionFields problem(const std::string& text) {
-  std::vector<std::vector<std::string>> rows(1);
-  std::istringstream in(text);
-  for (std::string word; in >> word;) {
-    if (word == "|")
-      rows.emplace_back();
-    else
-      rows.back().push_back(word == "_" ? "" : word);
-  }
+  const auto rows = testing::tableRows(text);
   AsignacionFields f;
   f.NumIndividuos = int(rows.size()) - 1;
   f.NumTareas = int(rows[0].size()) - 1;

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "frame/arith.h"
+#include "tests/test_support.h"
 
 namespace vorel::linear_programming {
 namespace {
@@ -15,14 +16,7 @@ namespace {
 // sense and the objective, then each row's cells, relation and right-hand
 // side. "_" is a blank cell, "?" a relation not chosen.
 SimplexFields problem(const std::string& text) {
-  std::vector<std::vector<std::string>> rows(1);
-  std::istringstream in(text);
-  for (std::string word; in >> word;) {
-    if (word == "|")
-      rows.emplace_back();
-    else
-      rows.back().push_back(word == "_" ? "" : word);
-  }
+  const auto rows = testing::tableRows(text);
   SimplexFields f;
   f.funcionObjetivo = rows[0][0] == "min";
   f.NumFactores = int(rows[0].size()) - 2;

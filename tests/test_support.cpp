@@ -28,4 +28,16 @@ void writeBytes(const std::string& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
 
+std::vector<std::vector<std::string>> tableRows(const std::string& text) {
+  std::vector<std::vector<std::string>> rows(1);
+  std::istringstream in(text);
+  for (std::string word; in >> word;) {
+    if (word == "|")
+      rows.emplace_back();
+    else
+      rows.back().push_back(word == "_" ? "" : word);
+  }
+  return rows;
+}
+
 }  // namespace vorel::testing

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "frame/arith.h"
+#include "tests/test_support.h"
 
 // Balancing, the north-west corner, the exchanges over rectangles, the
 // degenerate refusal and the never-ending case are also run from
@@ -19,14 +20,7 @@ namespace {
 // A problem as typed after RediseñarTabla, from "1 2 5 | 3 4 5 | 5 5": each
 // origin's costs and supply, then the demands. "_" is a blank cell.
 TransportesFields problem(const std::string& text) {
-  std::vector<std::vector<std::string>> rows(1);
-  std::istringstream in(text);
-  for (std::string word; in >> word;) {
-    if (word == "|")
-      rows.emplace_back();
-    else
-      rows.back().push_back(word == "_" ? "" : word);
-  }
+  const auto rows = testing::tableRows(text);
   TransportesFields f;
   const int m = int(rows.size()) - 1, n = int(rows.back().size());
   f.NumOrigen = m - 1;
