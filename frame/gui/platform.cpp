@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -106,7 +107,8 @@ void QtPlatform::runtimeError(const RuntimeError& e) {
 void QtPlatform::startHelp(const QString& path) {
 #ifdef Q_OS_WIN
   QProcess::startDetached(QStringLiteral("rundll32.exe"),
-                          {QStringLiteral("url.dll,FileProtocolHandler"), path});
+                          {QStringLiteral("url.dll,FileProtocolHandler"),
+                           QDir::toNativeSeparators(path)});
 #else
   QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 #endif
