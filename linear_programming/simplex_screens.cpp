@@ -1,9 +1,7 @@
 #include "linear_programming/simplex_screens.h"
 
-#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QPointer>
 #include <QPushButton>
 #include <algorithm>
 
@@ -211,38 +209,13 @@ SimplexSolution::SimplexSolution()
 }
 
 void SimplexSolution::formActivate() {
-  QPointer<SimplexSolution> self(this);
-  const std::string screenName = name();
-  // The screen is still there: cerrar during the solving unloads it.
-  auto open = [&self, &screenName] {
-    return self && gui::Screens::instance().loaded(screenName) == self.data();
-  };
-  // While the method runs, only the window's own commands (minimizar,
-  // cerrar) act: no other handler may start inside this one.
-  auto lock = [this](bool solving) {
-    solving_ = solving;
-    for (const char* name : {"Imprimir", "volver", "gohome", "forward", "back"})
-      if (auto* button = findChild<QAbstractButton*>(name)) button->setEnabled(!solving);
-    if (!solving) showAvailability();
-  };
   bool ended = false;
   run([&] {
     Solucion1()->Cls();
     const SimplexFields f = entry<SimplexEntry>().fields();
-    lock(true);
-    for (long budget = kFirstSlice;; budget = std::min(budget * 2, kLongestSlice)) {
-      try {
-        end_ = solve(f, results_, budget);
-        ended = true;
-        return;
-      } catch (const DoesNotEnd&) {
-      }
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-      if (!open()) return;
-    }
+    ended = solveInSlices([&](long budget) { end_ = solve(f, results_, budget); }, kFirstSlice,
+                          kLongestSlice);
   });
-  if (!open()) return;  // closed while the method ran: nothing more to paint
-  lock(false);
   if (ended) SolutionScreen::formActivate();
 }
 

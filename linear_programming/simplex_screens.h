@@ -52,7 +52,6 @@ public:
   // slices with the events of the desktop handled in between, and stops only
   // when it ends or when this screen is closed.
   void formActivate() override;
-  bool solving() const { return solving_; }
   const SimplexResults& results() const { return results_; }
 
 protected:
@@ -64,7 +63,6 @@ private:
 
   SimplexResults results_;  // kept between activation, browsing and Imprimir
   SimplexEnd end_;
-  bool solving_ = false;
 };
 
 void registerSimplexScreens();

@@ -113,9 +113,18 @@ void TransportesEntry::rediseñarTabla() {
 TransportesSolution::TransportesSolution()
     : SolutionScreen(kSolution, "Problema del Transporte", 92, 40) {}
 
+void TransportesSolution::formActivate() {
+  bool ended = false;
+  run([&] {
+    Solucion1()->Cls();
+    const TransportesFields f = entry<TransportesEntry>().fields();
+    ended = solveInSlices([&](long budget) { results_ = solve(f, budget); }, 1L << 12, 1L << 21);
+  });
+  if (ended) SolutionScreen::formActivate();
+}
+
 Pages TransportesSolution::compute() {
   const TransportesFields f = entry<TransportesEntry>().fields();
-  results_ = solve(f);  // no bound: the desktop waits as long as the method runs
   if (results_.degenerada) {
     gui::platform().errorBox(kTransportesDegenerada);
     gui::Screens::instance().show(kEntry);

@@ -49,11 +49,15 @@ class TransportesSolution : public gui::SolutionScreen {
   Q_OBJECT
 public:
   TransportesSolution();
+  // Solves the entry's problem afresh. Some problems improve for ever: the
+  // method runs in slices with the desktop's events handled in between, until
+  // it ends or this screen is closed.
+  void formActivate() override;
   const TransportesResults& results() const { return results_; }
 
 protected:
-  // Solves the entry's problem afresh. A degenerate first solution is told,
-  // and the entry comes back with all it held; nothing is painted.
+  // The solution just found. A degenerate first solution is told, and the
+  // entry comes back with all it held; nothing is painted.
   Pages compute() override;
   // The page from the results of the last activation and the entry's texts
   // as they stand.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTimer>
 
 #include "cli/models.h"
 #include "frame/gui/model_screens.h"
@@ -30,12 +31,29 @@ TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
     for (const QString& file : dir.entryList(QDir::Files, QDir::Name)) {
       SCOPED_TRACE(model.id + "/" + file.toStdString());
       const std::string report = golden(model.id, file, "report");
-      if (startsWith(report, "[salida 4]")) continue;  // the screen would compute for ever
       screens().reset();
       closeAllProblemFiles();
       platform.messages.clear();
       platform.runtimeErrors.clear();
       openFile(model.screen, dir.filePath(file));
+      if (startsWith(report, "[salida 4]\n")) {
+        // The method never ends: the screen goes on computing, but stays
+        // alive, with only its window commands at hand, until it is closed.
+        std::string closed;
+        QTimer::singleShot(400, [&] {
+          for (const std::string& s : entry->solutions) {
+            auto* solution = dynamic_cast<gui::SolutionScreen*>(screen(s));
+            if (!solution || !solution->solving()) continue;
+            EXPECT_FALSE(solution->findChild<QAbstractButton*>("Imprimir")->isEnabled());
+            press(s, "cerrar");
+            closed = s;
+          }
+        });
+        press(model.screen, "Resolver");
+        ASSERT_FALSE(closed.empty());
+        EXPECT_EQ(screen(closed), nullptr);
+        continue;
+      }
       press(model.screen, "Resolver");
 
       if (startsWith(report, "[salida 1]\n")) {

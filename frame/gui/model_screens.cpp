@@ -1,6 +1,9 @@
 #include "frame/gui/model_screens.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QPointer>
+#include <algorithm>
 #include <QVBoxLayout>
 
 #include "frame/gui/menus.h"
@@ -121,6 +124,37 @@ void SolutionScreen::formActivate() {
     page_ = pages.page;
     report_->setReport(pages.screen);
   });
+}
+
+bool SolutionScreen::solveInSlices(const std::function<void(long)>& attempt, long first,
+                                   long longest) {
+  QPointer<SolutionScreen> self(this);
+  const std::string screenName = name();
+  auto open = [&] { return self && Screens::instance().loaded(screenName) == self.data(); };
+  std::vector<std::pair<QAbstractButton*, bool>> locked;
+  for (auto* button : findChildren<QAbstractButton*>()) {
+    if (button->objectName() == "minimizar" || button->objectName() == "cerrar") continue;
+    locked.push_back({button, button->isEnabled()});
+    button->setEnabled(false);
+  }
+  solving_ = true;
+  auto unlock = [&] {
+    solving_ = false;
+    for (auto& [button, enabled] : locked) button->setEnabled(enabled);
+  };
+  for (long budget = first;; budget = std::min(budget * 2, longest)) {
+    try {
+      attempt(budget);
+      unlock();
+      return true;
+    } catch (const DoesNotEnd&) {
+    } catch (...) {
+      unlock();
+      throw;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    if (!open()) return false;
+  }
 }
 
 void SolutionScreen::imprimir() {

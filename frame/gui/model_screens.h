@@ -111,8 +111,17 @@ public:
   const Report& page() const { return page_; }
 
   void formActivate() override;
+  bool solving() const { return solving_; }
 
 protected:
+  // Runs a method that may never end as `attempt(budget)`, which solves with a
+  // step budget and throws DoesNotEnd when the budget is spent. Between
+  // attempts, each with twice the budget up to `longest`, the desktop handles
+  // its events, so the window stays alive and cerrar can close it; meanwhile
+  // only minimizar and cerrar act. False when the method did not end because
+  // the screen was closed.
+  bool solveInSlices(const std::function<void(long budget)>& attempt, long first, long longest);
+
   // Reads the entry screen's fields afresh and computes both reports.
   virtual Pages compute() = 0;
   virtual void imprimir();
@@ -127,6 +136,7 @@ private:
   ReportBox* report_;
   QHBoxLayout* commands_;
   Report page_;
+  bool solving_ = false;
 };
 
 }  // namespace vorel::gui
