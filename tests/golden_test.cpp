@@ -83,5 +83,18 @@ TEST(CommandLine, ListsModelsAndRejectsUnknownOnes) {
   EXPECT_NE(cli::findModel("GI_CantidadEconómicaPedido"), nullptr);
 }
 
+TEST(CommandLine, WritesThePrintedPageAsPdf) {
+  const std::string pdf = testing::tempPath("cep.pdf");
+  const std::string example = std::string(VOREL_SOURCE_DIR) + "/examples/cep/libro.txt";
+  const std::string out = transcript("cep '" + example + "' --pdf '" + pdf + "'");
+#ifdef VOREL_PDF
+  EXPECT_EQ(out, "");
+  EXPECT_EQ(testing::readBytes(pdf).substr(0, 5), "%PDF-");
+#else
+  EXPECT_NE(out.find("[salida 2]\nEsta versión de vorel-report se construyó sin la biblioteca"),
+            std::string::npos);
+#endif
+}
+
 }  // namespace
 }  // namespace vorel
