@@ -106,21 +106,11 @@ void Electra1Entry::setFields(const Electra1Fields& f) {
     paintHead(label, head.BackColor);
     label->setVisible(head.visible);
   }
-}
-
-void Electra1Entry::nuevo() {
-  Electra1Fields f = fields();
-  decision::nuevo(f);
-  setFields(f);
   gui::fitToTable(*this);
 }
 
 void Electra1Entry::rediseñarTabla() {
-  Electra1Fields f = fields();
-  if (!tell(rediseñar(f))) return;
-  setFields(f);
-  gui::fitToTable(*this);
-  C_[0](0)->setFocus();
+  if (edit([](Electra1Fields& f) { return rediseñar(f); })) C_[0](0)->setFocus();
 }
 
 Electra1Solution::Electra1Solution()

@@ -25,7 +25,7 @@ public:
   void setFields(const Electra1Fields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(Electra1Fields& f) override { decision::nuevo(f); }
   void exchange(ProblemFile& file, Electra1Fields& f) override { decision::exchange(file, f); }
   Messages check(const Electra1Fields& f) override { return decision::check(f); }
 

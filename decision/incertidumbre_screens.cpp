@@ -98,21 +98,11 @@ void IncertidumbreEntry::setFields(const IncertidumbreFields& f) {
     LblEstados_(row)->setVisible(f.LblEstados[i]);
     LblAlternativas_(row)->setVisible(f.LblAlternativas[i]);
   }
-}
-
-void IncertidumbreEntry::nuevo() {
-  IncertidumbreFields f = fields();
-  decision::nuevo(f);
-  setFields(f);
   gui::fitToTable(*this);
 }
 
 void IncertidumbreEntry::rediseñarTabla() {
-  IncertidumbreFields f = fields();
-  if (!tell(rediseñar(f))) return;
-  setFields(f);
-  gui::fitToTable(*this);
-  C_[0](0)->setFocus();
+  if (edit([](IncertidumbreFields& f) { return rediseñar(f); })) C_[0](0)->setFocus();
 }
 
 IncertidumbreSolution::IncertidumbreSolution()

@@ -23,7 +23,7 @@ public:
   void setFields(const IncertidumbreFields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(IncertidumbreFields& f) override { decision::nuevo(f); }
   void exchange(ProblemFile& file, IncertidumbreFields& f) override {
     decision::exchange(file, f);
   }

@@ -119,16 +119,11 @@ void JuegosNEntry::setFields(const JuegosNFields& f) {
   adjustSize();
 }
 
-void JuegosNEntry::nuevo() {
-  JuegosNFields f = fields();
-  games::nuevo(f);
-  setFields(f);
-}
-
 void JuegosNEntry::rediseñarTabla() {
-  JuegosNFields f = fields();
-  games::rediseñar(f);
-  setFields(f);
+  edit([](JuegosNFields& f) {
+    games::rediseñar(f);
+    return Messages{};
+  });
   columna(1)(0)->setFocus();
 }
 

@@ -24,7 +24,7 @@ public:
   const JuegosNResults& results() const { return results_; }
 
 protected:
-  void nuevo() override;
+  void nuevo(JuegosNFields& f) override { games::nuevo(f); }
   void resolver() override;
   void exchange(ProblemFile& file, JuegosNFields& f) override { games::exchange(file, f); }
   Messages check(const JuegosNFields& f) override { return games::check(f); }

@@ -24,12 +24,6 @@ EoqFields EoqEntry::fields() const {
 
 void EoqEntry::setFields(const EoqFields& f) { bindings_.write(f); }
 
-void EoqEntry::nuevo() {
-  EoqFields f = fields();
-  inventory::nuevo(f);
-  setFields(f);
-}
-
 EoqSolution::EoqSolution()
     : SolutionScreen("GI_CantidadEconómicaPedido_Solución", "Cantidad Económica de Pedido", 96,
                      24) {}

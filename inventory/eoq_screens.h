@@ -15,7 +15,7 @@ public:
   void setFields(const EoqFields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(EoqFields& f) override { inventory::nuevo(f); }
   void exchange(ProblemFile& file, EoqFields& f) override { inventory::exchange(file, f); }
   Messages check(const EoqFields& f) override { return inventory::check(f); }
 

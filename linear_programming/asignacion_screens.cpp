@@ -91,16 +91,11 @@ void AsignacionEntry::setFields(const AsignacionFields& f) {
   gui::fitToTable(*this);
 }
 
-void AsignacionEntry::nuevo() {
-  AsignacionFields f = fields();
-  linear_programming::nuevo(f);
-  setFields(f);
-}
-
 void AsignacionEntry::rediseñarTabla() {
-  AsignacionFields f = fields();
-  rediseñar(f);
-  setFields(f);
+  edit([](AsignacionFields& f) {
+    rediseñar(f);
+    return Messages{};
+  });
   columna(1)(0)->setFocus();
 }
 

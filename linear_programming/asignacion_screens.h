@@ -23,7 +23,7 @@ public:
   void setFields(const AsignacionFields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(AsignacionFields& f) override { linear_programming::nuevo(f); }
   void exchange(ProblemFile& file, AsignacionFields& f) override {
     linear_programming::exchange(file, f);
   }

@@ -179,12 +179,6 @@ void SimplexEntry::setFields(const SimplexFields& f) {
   }
 }
 
-void SimplexEntry::nuevo() {
-  SimplexFields f = fields();
-  linear_programming::nuevo(f);
-  setFields(f);
-}
-
 void SimplexEntry::rediseñarTabla() {
   SimplexFields f = fields();
   try {

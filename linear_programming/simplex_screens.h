@@ -24,7 +24,7 @@ public:
   void setFields(const SimplexFields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(SimplexFields& f) override { linear_programming::nuevo(f); }
   void exchange(ProblemFile& file, SimplexFields& f) override {
     linear_programming::exchange(file, f);
   }

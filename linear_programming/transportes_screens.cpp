@@ -97,17 +97,8 @@ void TransportesEntry::setFields(const TransportesFields& f) {
   gui::fitToTable(*this);
 }
 
-void TransportesEntry::nuevo() {
-  TransportesFields f = fields();
-  linear_programming::nuevo(f);
-  setFields(f);
-}
-
 void TransportesEntry::rediseñarTabla() {
-  TransportesFields f = fields();
-  if (!tell(rediseñar(f))) return;
-  setFields(f);
-  columna(1)(0)->setFocus();
+  if (edit([](TransportesFields& f) { return rediseñar(f); })) columna(1)(0)->setFocus();
 }
 
 TransportesSolution::TransportesSolution()

@@ -25,7 +25,7 @@ public:
   void setFields(const TransportesFields& f) override;
 
 protected:
-  void nuevo() override;
+  void nuevo(TransportesFields& f) override { linear_programming::nuevo(f); }
   void exchange(ProblemFile& file, TransportesFields& f) override {
     linear_programming::exchange(file, f);
   }

@@ -240,12 +240,6 @@ void ColasEntry::elegirServicio() {
   setFields(f);
 }
 
-void ColasEntry::nuevo() {
-  ColasFields f = fields();
-  queueing::nuevo(f);
-  setFields(f);
-}
-
 void ColasEntry::resolver() {
   ColasFields f = fields();
   if (!tell(check(f))) return;

@@ -24,7 +24,7 @@ public:
   void formActivate() override;
 
 protected:
-  void nuevo() override;
+  void nuevo(ColasFields& f) override { queueing::nuevo(f); }
   void resolver() override;
   void exchange(ProblemFile& file, ColasFields& f) override { queueing::exchange(file, f); }
   Messages check(const ColasFields& f) override { return queueing::check(f); }

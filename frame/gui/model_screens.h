@@ -64,6 +64,24 @@ public:
 protected:
   virtual void exchange(ProblemFile& file, Fields& f) = 0;
   virtual Messages check(const Fields& f) = 0;
+  virtual void nuevo(Fields& f) = 0;  // the model's own nuevo over its fields
+
+  // Runs one of the model's own edits of its fields (nuevo, Rediseñar) on the
+  // fields as they stand, tells its messages and puts the fields back; false
+  // when it told any, and then the screen is left as it was.
+  bool edit(const std::function<Messages(Fields&)>& change) {
+    Fields f = fields();
+    if (!tell(change(f))) return false;
+    setFields(f);
+    return true;
+  }
+
+  void nuevo() override {
+    edit([this](Fields& f) {
+      nuevo(f);
+      return Messages{};
+    });
+  }
 
   void abrir() override {
     auto path = platform().openDialog(kOpenFilter, 2);
