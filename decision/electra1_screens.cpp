@@ -78,7 +78,7 @@ Electra1Fields Electra1Entry::fields() const {
     const int row = static_cast<int>(i);
     for (std::size_t j = 0; j < 7; ++j) {
       QLineEdit* cell = C_[j](row);
-      f.C[j][i] = {cell->text().toStdString(), !cell->isHidden()};
+      f.C[j][i] = gui::readCell(cell);
     }
     f.LblCriterios[i] = !LblCriterios_(row)->isHidden();
     QLabel* head = LblAlternativas_(row);
@@ -96,8 +96,7 @@ void Electra1Entry::setFields(const Electra1Fields& f) {
     const int row = static_cast<int>(i);
     for (std::size_t j = 0; j < 7; ++j) {
       QLineEdit* cell = C_[j](row);
-      cell->setText(QString::fromStdString(f.C[j][i].text));
-      cell->setVisible(f.C[j][i].visible);
+      gui::writeCell(cell, f.C[j][i]);
     }
     LblCriterios_(row)->setVisible(f.LblCriterios[i]);
     const auto& head = f.LblAlternativas[i];

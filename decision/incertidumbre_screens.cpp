@@ -76,7 +76,7 @@ IncertidumbreFields IncertidumbreEntry::fields() const {
     const int row = static_cast<int>(i);
     for (std::size_t j = 0; j < 7; ++j) {
       QLineEdit* cell = C_[j](row);
-      f.C[j][i] = {cell->text().toStdString(), !cell->isHidden()};
+      f.C[j][i] = gui::readCell(cell);
     }
     f.LblEstados[i] = !LblEstados_(row)->isHidden();
     f.LblAlternativas[i] = !LblAlternativas_(row)->isHidden();
@@ -92,8 +92,7 @@ void IncertidumbreEntry::setFields(const IncertidumbreFields& f) {
     const int row = static_cast<int>(i);
     for (std::size_t j = 0; j < 7; ++j) {
       QLineEdit* cell = C_[j](row);
-      cell->setText(QString::fromStdString(f.C[j][i].text));
-      cell->setVisible(f.C[j][i].visible);
+      gui::writeCell(cell, f.C[j][i]);
     }
     LblEstados_(row)->setVisible(f.LblEstados[i]);
     LblAlternativas_(row)->setVisible(f.LblAlternativas[i]);

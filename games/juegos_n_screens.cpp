@@ -95,7 +95,7 @@ JuegosNFields JuegosNEntry::fields() const {
     f.B[at] = !cabeceraB_(i)->isHidden();
     for (int k = 1; k <= kMaxEstrategias; ++k) {
       const QLineEdit* cell = columna(k)(i);
-      f.array(k)[at] = {cell->text().toStdString(), !cell->isHidden()};
+      f.array(k)[at] = gui::readCell(cell);
     }
   }
   return f;
@@ -111,8 +111,7 @@ void JuegosNEntry::setFields(const JuegosNFields& f) {
     cabeceraB_(i)->setVisible(f.B[at]);
     for (int k = 1; k <= kMaxEstrategias; ++k) {
       QLineEdit* cell = columna(k)(i);
-      cell->setText(QString::fromStdString(f.array(k)[at].text));
-      cell->setVisible(f.array(k)[at].visible);
+      gui::writeCell(cell, f.array(k)[at]);
     }
   }
   if (auto* layout = this->layout()) layout->activate();

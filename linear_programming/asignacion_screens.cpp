@@ -63,8 +63,7 @@ AsignacionFields AsignacionEntry::fields() const {
   for (int i = 0; i < kAsignacionArrays; ++i)
     for (int j = 1; j <= kAsignacionArrays; ++j) {
       const QLineEdit* cell = columna(j)(i);
-      f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)] = {
-          cell->text().toStdString(), !cell->isHidden()};
+      f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)] = gui::readCell(cell);
     }
   for (int k = 0; k < kAsignacionMax; ++k) {
     f.LblIndividuos[static_cast<std::size_t>(k)] = !LblIndividuos_(k)->isHidden();
@@ -81,8 +80,7 @@ void AsignacionEntry::setFields(const AsignacionFields& f) {
     for (int j = 1; j <= kAsignacionArrays; ++j) {
       const Cell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
       QLineEdit* cell = columna(j)(i);
-      cell->setText(QString::fromStdString(c.text));
-      cell->setVisible(c.visible);
+      gui::writeCell(cell, c);
     }
   for (int k = 0; k < kAsignacionMax; ++k) {
     LblIndividuos_(k)->setVisible(f.LblIndividuos[static_cast<std::size_t>(k)]);

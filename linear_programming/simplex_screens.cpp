@@ -139,7 +139,7 @@ SimplexFields SimplexEntry::fields() const {
   for (std::size_t j = 0; j < kSimplexMax; ++j)
     for (std::size_t i = 0; i < kSimplexRows; ++i) {
       QLineEdit* cell = X_[j](int(i));
-      f.X[j][i] = {cell->text().toStdString(), !cell->isHidden()};
+      f.X[j][i] = gui::readCell(cell);
     }
   for (std::size_t i = 0; i < kSimplexMax; ++i) {
     QComboBox* relation = restriccion_(int(i));
@@ -149,7 +149,7 @@ SimplexFields SimplexEntry::fields() const {
   }
   for (std::size_t i = 1; i < kSimplexRows; ++i) {
     QLineEdit* cell = existencias_(int(i));
-    f.existencias[i] = {cell->text().toStdString(), !cell->isHidden()};
+    f.existencias[i] = gui::readCell(cell);
   }
   return f;
 }

@@ -65,7 +65,7 @@ TransportesFields TransportesEntry::fields() const {
     const auto at = static_cast<std::size_t>(k);
     for (int j = 1; j <= kTransportesArrays; ++j) {
       const QLineEdit* cell = columna(j)(k);
-      f.C[static_cast<std::size_t>(j - 1)][at] = {cell->text().toStdString(), !cell->isHidden()};
+      f.C[static_cast<std::size_t>(j - 1)][at] = gui::readCell(cell);
     }
     f.LblOrigen[at] = {LblOrigen_(k)->text().toStdString(), !LblOrigen_(k)->isHidden()};
     f.LblDestino[at] = {LblDestino_(k)->text().toStdString(), !LblDestino_(k)->isHidden()};
@@ -89,8 +89,7 @@ void TransportesEntry::setFields(const TransportesFields& f) {
     for (int i = 0; i < kTransportesArrays; ++i) {
       const Cell& c = f.C[static_cast<std::size_t>(j - 1)][static_cast<std::size_t>(i)];
       QLineEdit* cell = columna(j)(i);
-      cell->setText(QString::fromStdString(c.text));
-      cell->setVisible(c.visible);
+      gui::writeCell(cell, c);
       gui::markTotalCell(cell, f.LblDestino[static_cast<std::size_t>(j - 1)].caption == "Existencias" ||
                               f.LblOrigen[static_cast<std::size_t>(i)].caption == "Demandas");
     }

@@ -11,6 +11,7 @@
 
 #include "frame/arith.h"
 #include "frame/checks.h"
+#include "frame/model.h"
 
 namespace vorel::gui {
 
@@ -39,6 +40,13 @@ private:
   std::vector<W*> items_;
   int first_ = 0;
 };
+
+// A table cell read from its text box, and written back to it.
+inline Cell readCell(const QLineEdit* box) { return {box->text().toStdString(), !box->isHidden()}; }
+inline void writeCell(QLineEdit* box, const Cell& c) {
+  box->setText(QString::fromStdString(c.text));
+  box->setVisible(c.visible);
+}
 
 // A table cell: a small right-aligned text box.
 inline QLineEdit* newCell(QWidget* parent) {
