@@ -35,9 +35,7 @@ Electra1Entry::Electra1Entry()
 
   // The table: criteria down the rows, alternatives and then the weights across.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   LblAlternativas_.create(frame, "LblAlternativas", 0, 6, [](QWidget* parent) {
     auto* head = gui::newHeading(parent);
     head->setFixedWidth(96);

@@ -25,9 +25,7 @@ IncertidumbreEntry::IncertidumbreEntry()
 
   // The table: alternatives down the rows, states of nature across.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   auto* estados = new QLabel("Estados de la Naturaleza", frame);
   estados->setObjectName("LblGrupoEstados");
   estados->setStyleSheet("font-size: 10pt; font-weight: 600; color: #4A5568;");

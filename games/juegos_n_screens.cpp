@@ -56,10 +56,7 @@ JuegosNEntry::JuegosNEntry()
   // The table: player 1's strategies A down the rows, player 2's B across;
   // the column k holds the array Ak, one element per row.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setContentsMargins(14, 12, 14, 12);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   const char* grupo = "font-size: 10pt; font-weight: 600; color: #4A5568;";
   grid->addWidget(caption(frame, "Jugador 2", grupo), 0, 1, 1, kMaxEstrategias, Qt::AlignLeft);
   grid->addWidget(caption(frame, "Jugador 1", grupo), 1, 0, Qt::AlignLeft | Qt::AlignBottom);
@@ -79,7 +76,7 @@ JuegosNEntry::JuegosNEntry()
     for (int k = 1; k <= kMaxEstrategias; ++k) grid->addWidget(columna(k)(i), i + 2, k);
   }
   grid->setColumnStretch(kMaxEstrategias + 1, 1);
-  body()->insertWidget(body()->indexOf(fieldGrid()) + 1, frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(JuegosNFields{});
 }

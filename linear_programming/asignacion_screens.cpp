@@ -23,9 +23,7 @@ AsignacionEntry::AsignacionEntry()
 
   // The table: individuals down the rows, tasks across.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   LblTareas_.create(frame, "LblTareas", 0, kAsignacionMax - 1, [](QWidget* parent) {
     auto* head = gui::newColumnHead(parent);
     head->setFixedWidth(84);

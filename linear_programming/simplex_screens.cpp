@@ -86,10 +86,7 @@ SimplexEntry::SimplexEntry()
   // The table: the objective row and one row per constraint, the variables
   // across, then the relation and the right-hand side.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setContentsMargins(14, 12, 14, 12);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   const int tipoColumn = kSimplexMax + 1, existenciasColumn = kSimplexMax + 2;
   LblFactores_.create(frame, "LblFactores", 0, kSimplexMax - 1, gui::newHeading);
   Lblrestriccion_.create(frame, "Lblrestriccion", 0, kSimplexMax - 1, gui::newHeading);
@@ -125,7 +122,7 @@ SimplexEntry::SimplexEntry()
     grid->addWidget(existencias_(r), r + 2, existenciasColumn);
   }
   grid->setColumnStretch(existenciasColumn + 1, 1);
-  body()->insertWidget(body()->indexOf(fieldGrid()) + 1, frame);
+  gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(SimplexFields{});  // Form_Load: the 2 by 2 table
 }

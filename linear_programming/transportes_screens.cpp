@@ -27,9 +27,7 @@ TransportesEntry::TransportesEntry()
   // The table: origins down the rows and the demands after them; destinations
   // across and the supplies after them.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = new QGridLayout(frame);
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  auto* grid = gui::tableGrid(frame);
   LblDestino_.create(frame, "LblDestino", 0, kTransportesArrays - 1, [](QWidget* parent) {
     auto* head = gui::newColumnHead(parent);
     head->setFixedWidth(84);

@@ -53,11 +53,16 @@ QFrame* tableFrame(QWidget& screen) {
   frame->setObjectName("tabla");
   frame->setStyleSheet(
       "QFrame#tabla { background: #FFFFFF; border: 1px solid #D5DAE3; border-radius: 6px; }");
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(14, 12, 14, 12);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(5);
   return frame;
 }
 
+QGridLayout* tableGrid(QFrame* table) { return static_cast<QGridLayout*>(table->layout()); }
+
 void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
-  table->layout()->setContentsMargins(14, 12, 14, 12);
   body->insertWidget(body->indexOf(fieldGrid) + 1, table);
 }
 

@@ -27,8 +27,9 @@ QComboBox* addNumberSelector(EntryScreen& screen, int row, int column, const QSt
 QPushButton* redesignButton(QWidget& screen, std::function<void()> handler,
                             const QString& text = QStringLiteral("Rediseñar Tabla"),
                             const QString& objectName = QStringLiteral("RediseñarTabla"));
-// The white panel that holds a table of cells.
+// The white panel that holds a table of cells, laid out on a grid.
 QFrame* tableFrame(QWidget& screen);
+QGridLayout* tableGrid(QFrame* table);
 // Puts the table panel below the fields' grid.
 void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table);
 // Fits the window to its table after the table changed shape.
