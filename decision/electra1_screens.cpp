@@ -35,28 +35,10 @@ Electra1Entry::Electra1Entry()
 
   // The table: criteria down the rows, alternatives and then the weights across.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = gui::tableGrid(frame);
-  LblAlternativas_.create(frame, "LblAlternativas", 0, 6, [](QWidget* parent) {
-    auto* head = gui::newHeading(parent);
-    head->setFixedWidth(96);
-    return head;
-  });
-  LblCriterios_.create(frame, "LblCriterios", 0, 6, gui::newHeading);
-  for (int j = 1; j <= 7; ++j)
-    C_[static_cast<std::size_t>(j - 1)].create(frame, "C" + QString::number(j), 0, 6,
-                                               [](QWidget* parent) {
-                                                 auto* cell = gui::newCell(parent);
-                                                 cell->setFixedWidth(96);
-                                                 return cell;
-                                               });
-  for (int k = 0; k <= 6; ++k) {
-    grid->addWidget(LblAlternativas_(k), 0, k + 1);
-    LblCriterios_(k)->setText("Criterio " + QString::number(k + 1));
-    LblCriterios_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(LblCriterios_(k), k + 1, 0);
-    for (int j = 1; j <= 7; ++j) grid->addWidget(C_[static_cast<std::size_t>(j - 1)](k), k + 1, j);
-  }
-  grid->setColumnStretch(8, 1);
+  gui::createColumnHeads(frame, LblAlternativas_, "LblAlternativas", 7, 96, 0);
+  gui::createRowHeads(frame, LblCriterios_, "LblCriterios", 7, 1);
+  gui::createCells(frame, C_, "C", 7, 96, 1);
+  for (int k = 0; k <= 6; ++k) LblCriterios_(k)->setText("Criterio " + QString::number(k + 1));
   gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(Electra1Fields{});

@@ -35,31 +35,13 @@ IncertidumbreEntry::IncertidumbreEntry()
   alternativas->setStyleSheet("font-size: 10pt; font-weight: 600; color: #4A5568;");
   grid->addWidget(alternativas, 1, 0, Qt::AlignLeft | Qt::AlignBottom);
 
-  LblEstados_.create(frame, "LblEstados", 0, 6, [](QWidget* parent) {
-    auto* head = gui::newHeading(parent);
-    head->setFixedWidth(96);
-    head->setStyleSheet(
-        "font-weight: 600; color: #2D3748; border-radius: 3px; padding: 3px 2px;"
-        " background-color: #E2E8F0;");
-    return head;
-  });
-  LblAlternativas_.create(frame, "LblAlternativas", 0, 6, gui::newHeading);
-  for (int j = 1; j <= 7; ++j)
-    C_[static_cast<std::size_t>(j - 1)].create(frame, "C" + QString::number(j), 0, 6,
-                                               [](QWidget* parent) {
-                                                 auto* cell = gui::newCell(parent);
-                                                 cell->setFixedWidth(96);
-                                                 return cell;
-                                               });
+  gui::createColumnHeads(frame, LblEstados_, "LblEstados", 7, 96, 1);
+  gui::createRowHeads(frame, LblAlternativas_, "LblAlternativas", 7, 2);
+  gui::createCells(frame, C_, "C", 7, 96, 2);
   for (int k = 0; k <= 6; ++k) {
     LblEstados_(k)->setText("Estado " + QString::number(k + 1));
-    grid->addWidget(LblEstados_(k), 1, k + 1);
     LblAlternativas_(k)->setText("Alternativa " + QString::number(k + 1));
-    LblAlternativas_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(LblAlternativas_(k), k + 2, 0);
-    for (int j = 1; j <= 7; ++j) grid->addWidget(C_[static_cast<std::size_t>(j - 1)](k), k + 2, j);
   }
-  grid->setColumnStretch(8, 1);
   gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(IncertidumbreFields{});

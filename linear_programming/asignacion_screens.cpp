@@ -23,31 +23,13 @@ AsignacionEntry::AsignacionEntry()
 
   // The table: individuals down the rows, tasks across.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = gui::tableGrid(frame);
-  LblTareas_.create(frame, "LblTareas", 0, kAsignacionMax - 1, [](QWidget* parent) {
-    auto* head = gui::newColumnHead(parent);
-    head->setFixedWidth(84);
-    return head;
-  });
-  LblIndividuos_.create(frame, "LblIndividuos", 0, kAsignacionMax - 1, gui::newHeading);
-  for (int j = 1; j <= kAsignacionArrays; ++j)
-    columna(j).create(frame, "C" + QString::number(j), 0, kAsignacionArrays - 1,
-                      [](QWidget* parent) {
-                        auto* cell = gui::newCell(parent);
-                        cell->setFixedWidth(84);
-                        return cell;
-                      });
+  gui::createColumnHeads(frame, LblTareas_, "LblTareas", kAsignacionMax, 84, 0);
+  gui::createRowHeads(frame, LblIndividuos_, "LblIndividuos", kAsignacionMax, 1, 84);
+  gui::createCells(frame, C_, "C", kAsignacionArrays, 84, 1);
   for (int k = 0; k < kAsignacionMax; ++k) {
     LblTareas_(k)->setText(QString::fromStdString(asignacionHeading(true, k)));
-    grid->addWidget(LblTareas_(k), 0, k + 1);
     LblIndividuos_(k)->setText(QString::fromStdString(asignacionHeading(false, k)));
-    LblIndividuos_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    LblIndividuos_(k)->setMinimumWidth(84);
-    grid->addWidget(LblIndividuos_(k), k + 1, 0);
   }
-  for (int i = 0; i < kAsignacionArrays; ++i)
-    for (int j = 1; j <= kAsignacionArrays; ++j) grid->addWidget(columna(j)(i), i + 1, j);
-  grid->setColumnStretch(kAsignacionArrays + 1, 1);
   gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(AsignacionFields{});

@@ -27,28 +27,9 @@ TransportesEntry::TransportesEntry()
   // The table: origins down the rows and the demands after them; destinations
   // across and the supplies after them.
   auto* frame = gui::tableFrame(*this);
-  auto* grid = gui::tableGrid(frame);
-  LblDestino_.create(frame, "LblDestino", 0, kTransportesArrays - 1, [](QWidget* parent) {
-    auto* head = gui::newColumnHead(parent);
-    head->setFixedWidth(84);
-    return head;
-  });
-  LblOrigen_.create(frame, "LblOrigen", 0, kTransportesArrays - 1, gui::newHeading);
-  for (int j = 1; j <= kTransportesArrays; ++j)
-    columna(j).create(frame, "C" + QString::number(j), 0, kTransportesArrays - 1,
-                      [](QWidget* parent) {
-                        auto* cell = gui::newCell(parent);
-                        cell->setFixedWidth(84);
-                        return cell;
-                      });
-  for (int k = 0; k < kTransportesArrays; ++k) {
-    grid->addWidget(LblDestino_(k), 0, k + 1);
-    LblOrigen_(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    LblOrigen_(k)->setMinimumWidth(84);
-    grid->addWidget(LblOrigen_(k), k + 1, 0);
-    for (int j = 1; j <= kTransportesArrays; ++j) grid->addWidget(columna(j)(k), k + 1, j);
-  }
-  grid->setColumnStretch(kTransportesArrays + 1, 1);
+  gui::createColumnHeads(frame, LblDestino_, "LblDestino", kTransportesArrays, 84, 0);
+  gui::createRowHeads(frame, LblOrigen_, "LblOrigen", kTransportesArrays, 1, 84);
+  gui::createCells(frame, C_, "C", kTransportesArrays, 84, 1);
   gui::placeTable(body(), fieldGrid(), frame);
 
   setFields(TransportesFields{});

@@ -62,6 +62,26 @@ QFrame* tableFrame(QWidget& screen) {
 
 QGridLayout* tableGrid(QFrame* table) { return static_cast<QGridLayout*>(table->layout()); }
 
+void createColumnHeads(QFrame* table, ControlArray<QLabel>& heads, const QString& name, int count,
+                       int width, int row) {
+  heads.create(table, name, 0, count - 1, [width](QWidget* parent) {
+    auto* head = newColumnHead(parent);
+    head->setFixedWidth(width);
+    return head;
+  });
+  for (int k = 0; k < count; ++k) tableGrid(table)->addWidget(heads(k), row, k + 1);
+}
+
+void createRowHeads(QFrame* table, ControlArray<QLabel>& heads, const QString& name, int count,
+                    int top, int minimumWidth) {
+  heads.create(table, name, 0, count - 1, newHeading);
+  for (int k = 0; k < count; ++k) {
+    heads(k)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    heads(k)->setMinimumWidth(minimumWidth);
+    tableGrid(table)->addWidget(heads(k), top + k, 0);
+  }
+}
+
 void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
   body->insertWidget(body->indexOf(fieldGrid) + 1, table);
 }

@@ -9,8 +9,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <array>
 #include <functional>
 
+#include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
 
 namespace vorel::gui {
@@ -30,6 +32,29 @@ QPushButton* redesignButton(QWidget& screen, std::function<void()> handler,
 // The white panel that holds a table of cells, laid out on a grid.
 QFrame* tableFrame(QWidget& screen);
 QGridLayout* tableGrid(QFrame* table);
+// The columns of cells "<prefix>1", "<prefix>2"..., each of `rows` elements,
+// on the table's grid: column j+1 of the grid holds the array j, from grid row
+// `top` down.
+template <std::size_t N>
+void createCells(QFrame* table, std::array<ControlArray<QLineEdit>, N>& columns,
+                 const QString& prefix, int rows, int width, int top) {
+  for (std::size_t j = 0; j < N; ++j) {
+    columns[j].create(table, prefix + QString::number(j + 1), 0, rows - 1, [width](QWidget* p) {
+      auto* cell = newCell(p);
+      cell->setFixedWidth(width);
+      return cell;
+    });
+    for (int i = 0; i < rows; ++i) tableGrid(table)->addWidget(columns[j](i), top + i, int(j) + 1);
+  }
+  tableGrid(table)->setColumnStretch(int(N) + 1, 1);
+}
+// The headings of the table's columns, across grid row `row` from column 1,
+// on shaded tabs; and of its rows, right-aligned down column 0 from row `top`.
+void createColumnHeads(QFrame* table, ControlArray<QLabel>& heads, const QString& name, int count,
+                       int width, int row);
+void createRowHeads(QFrame* table, ControlArray<QLabel>& heads, const QString& name, int count,
+                    int top, int minimumWidth = 0);
+
 // Puts the table panel below the fields' grid.
 void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table);
 // Fits the window to its table after the table changed shape.
