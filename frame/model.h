@@ -3,8 +3,10 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "frame/chart.h"
 #include "frame/problem_file.h"
 #include "frame/report.h"
 
@@ -28,10 +30,15 @@ struct Message {
 // one in the first-failure family; one per bad cell in the table family.
 using Messages = std::vector<Message>;
 
-// What a solution screen paints when it activates, and what Imprimir prints.
+// What a solution screen paints when it activates, and what Imprimir prints;
+// a charted screen also draws `chart` (empty elsewhere).
 struct Pages {
+  Pages() = default;
+  Pages(Report screen, Report page, Chart chart = {})
+      : screen(std::move(screen)), page(std::move(page)), chart(std::move(chart)) {}
   Report screen;
   Report page;
+  Chart chart;
 };
 
 enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError = 3 };
