@@ -5,26 +5,44 @@
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <new>
 
 namespace vorel {
 
 std::string errorText(int number) {
   switch (number) {
-    case err::InvalidCall: return "Argumento o llamada a procedimiento no válida";
-    case err::Overflow: return "Desbordamiento";
-    case err::Subscript: return "El subíndice está fuera del intervalo";
-    case err::DivisionByZero: return "División por cero";
-    case err::TypeMismatch: return "No coinciden los tipos";
-    case err::ObjectNotSet: return "Variable de tipo Object o la variable de bloque With no está establecida";
-    case err::PrinterError: return "Error de impresora";
-    default: return "Error definido por la aplicación o por el objeto";
+    case err::InvalidCall:
+      return "Argumento o llamada a procedimiento no válida";
+    case err::Overflow:
+      return "Desbordamiento";
+    case err::Subscript:
+      return "El subíndice está fuera del intervalo";
+    case err::DivisionByZero:
+      return "División por cero";
+    case err::OutOfMemory:
+      return "Memoria insuficiente";
+    case err::TypeMismatch:
+      return "No coinciden los tipos";
+    case err::Internal:
+      return "Error interno";
+    case err::ObjectNotSet:
+      return "Variable de tipo Object o la variable de bloque With no está establecida";
+    case err::PrinterError:
+      return "Error de impresora";
+    default:
+      return "Error definido por la aplicación o por el objeto";
   }
 }
 
-RuntimeError::RuntimeError(int number)
-    : std::runtime_error(errorText(number)), number_(number) {}
+RuntimeError::RuntimeError(int number) : std::runtime_error(errorText(number)), number_(number) {}
 
 void raise(int number) { throw RuntimeError(number); }
+
+RuntimeError platformError(const std::exception& e) {
+  if (auto* own = dynamic_cast<const RuntimeError*>(&e)) return *own;
+  if (dynamic_cast<const std::bad_alloc*>(&e)) return RuntimeError(err::OutOfMemory);
+  return RuntimeError(err::Internal);
+}
 
 namespace {
 
@@ -62,19 +80,40 @@ double Val(std::string_view text) {
     if (isBlank(c)) continue;
     if (at == At::Sign) {
       at = At::Whole;
-      if (c == '+' || c == '-') { number += c; continue; }
+      if (c == '+' || c == '-') {
+        number += c;
+        continue;
+      }
     }
     if (at == At::Whole) {
-      if (isDigit(c)) { number += c; anyDigit = true; continue; }
-      if (c == '.') { number += c; at = At::Fraction; continue; }
+      if (isDigit(c)) {
+        number += c;
+        anyDigit = true;
+        continue;
+      }
+      if (c == '.') {
+        number += c;
+        at = At::Fraction;
+        continue;
+      }
     } else if (at == At::Fraction) {
-      if (isDigit(c)) { number += c; anyDigit = true; continue; }
+      if (isDigit(c)) {
+        number += c;
+        anyDigit = true;
+        continue;
+      }
     } else if (at == At::ExpSign) {
       at = At::ExpDigits;
-      if (c == '+' || c == '-') { exponent += c; continue; }
+      if (c == '+' || c == '-') {
+        exponent += c;
+        continue;
+      }
     }
     if (at == At::ExpDigits) {
-      if (isDigit(c)) { exponent += c; continue; }
+      if (isDigit(c)) {
+        exponent += c;
+        continue;
+      }
       break;
     }
     if ((c == 'e' || c == 'E' || c == 'd' || c == 'D') && anyDigit) {
@@ -96,9 +135,9 @@ char decimalMarkFromEnvironment() {
     if (!value || !*value) continue;
     std::string_view lang(value);
     static constexpr std::string_view commaLanguages[] = {
-        "es", "ca", "gl", "eu", "fr", "de", "it", "pt", "nl", "da", "sv", "nb", "nn", "fi",
-        "pl", "cs", "sk", "sl", "hr", "hu", "ro", "ru", "uk", "tr", "el", "bg", "sr", "lt",
-        "lv", "et", "id", "vi"};
+        "es", "ca", "gl", "eu", "fr", "de", "it", "pt", "nl", "da", "sv",
+        "nb", "nn", "fi", "pl", "cs", "sk", "sl", "hr", "hu", "ro", "ru",
+        "uk", "tr", "el", "bg", "sr", "lt", "lv", "et", "id", "vi"};
     for (auto l : commaLanguages)
       if (lang.substr(0, 2) == l && (lang.size() == 2 || lang[2] == '_' || lang[2] == '.'))
         return ',';
@@ -127,13 +166,19 @@ bool IsNumeric(std::string_view text, char decimalMark) {
   if (i < n && (text[i] == '+' || text[i] == '-')) number += text[i++];
   bool digits = false;
   while (i < n && (isDigit(text[i]) || text[i] == groupMark)) {
-    if (text[i] != groupMark) { number += text[i]; digits = true; }
+    if (text[i] != groupMark) {
+      number += text[i];
+      digits = true;
+    }
     ++i;
   }
   if (i < n && text[i] == decimalMark) {
     number += '.';
     ++i;
-    while (i < n && isDigit(text[i])) { number += text[i++]; digits = true; }
+    while (i < n && isDigit(text[i])) {
+      number += text[i++];
+      digits = true;
+    }
   }
   if (!digits) return false;
   if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
@@ -141,7 +186,10 @@ bool IsNumeric(std::string_view text, char decimalMark) {
     ++i;
     if (i < n && (text[i] == '+' || text[i] == '-')) number += text[i++];
     bool expDigits = false;
-    while (i < n && isDigit(text[i])) { number += text[i++]; expDigits = true; }
+    while (i < n && isDigit(text[i])) {
+      number += text[i++];
+      expDigits = true;
+    }
     if (!expDigits) return false;
   }
   if (i != n) return false;
@@ -253,9 +301,18 @@ std::int16_t narrow(long value) {
 }  // namespace
 
 Integer::Integer(int value) : value_(narrow(value)) {}
-Integer& Integer::operator+=(Integer o) { value_ = narrow(long(value_) + o.value_); return *this; }
-Integer& Integer::operator-=(Integer o) { value_ = narrow(long(value_) - o.value_); return *this; }
-Integer& Integer::operator*=(Integer o) { value_ = narrow(long(value_) * o.value_); return *this; }
+Integer& Integer::operator+=(Integer o) {
+  value_ = narrow(long(value_) + o.value_);
+  return *this;
+}
+Integer& Integer::operator-=(Integer o) {
+  value_ = narrow(long(value_) - o.value_);
+  return *this;
+}
+Integer& Integer::operator*=(Integer o) {
+  value_ = narrow(long(value_) * o.value_);
+  return *this;
+}
 Integer& Integer::operator++() { return *this += 1; }
 Integer& Integer::operator--() { return *this -= 1; }
 

@@ -12,26 +12,31 @@ namespace vorel {
 
 // A run-time error of the platform: its number and its Spanish text.
 class RuntimeError : public std::runtime_error {
-public:
+ public:
   explicit RuntimeError(int number);
   int number() const { return number_; }
 
-private:
+ private:
   int number_;
 };
 
 namespace err {
-inline constexpr int InvalidCall = 5;    // square root or logarithm out of domain
-inline constexpr int Overflow = 6;       // overflow, 0/0
-inline constexpr int Subscript = 9;      // index outside an array
+inline constexpr int InvalidCall = 5;  // square root or logarithm out of domain
+inline constexpr int Overflow = 6;     // overflow, 0/0
+inline constexpr int OutOfMemory = 7;
+inline constexpr int Subscript = 9;  // index outside an array
 inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;  // a text where a number is needed
+inline constexpr int Internal = 51;      // anything else that fails
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int PrinterError = 482;
 }  // namespace err
 
 std::string errorText(int number);
 [[noreturn]] void raise(int number);
+// The platform's error for any exception: itself when it is one, error 7 when
+// memory ran out, error 51 for anything else.
+RuntimeError platformError(const std::exception& e);
 
 // Reads the longest leading number of a text; "." is the only decimal mark.
 double Val(std::string_view text);
@@ -74,9 +79,9 @@ double power(double base, double exponent);
 
 // The 16-bit Integer: arithmetic and conversion out of range raise overflow.
 class Integer {
-public:
+ public:
   constexpr Integer() = default;
-  Integer(int value);  // NOLINT: implicit, as integer literals are Integers
+  Integer(int value);                      // NOLINT: implicit, as integer literals are Integers
   operator int() const { return value_; }  // NOLINT
 
   Integer& operator+=(Integer o);
@@ -95,7 +100,7 @@ public:
   friend Integer operator-(int a, Integer b) { return Integer(a) -= b; }
   friend Integer operator*(int a, Integer b) { return Integer(a) *= b; }
 
-private:
+ private:
   std::int16_t value_ = 0;
 };
 

@@ -15,9 +15,9 @@ namespace {
 
 // Windows-1252 0x80..0x9F; 0 where the code page has no character.
 constexpr char32_t kHighTable[32] = {
-    0x20AC, 0, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0, 0x017D, 0, 0, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0, 0x017E, 0x0178};
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 void appendUtf8(std::string& out, char32_t c) {
   if (c < 0x80) {
@@ -191,21 +191,32 @@ std::string key(const std::string& path) {
 
 }  // namespace
 
-bool openProblem(const std::string& path, const Exchange& exchange) {
-  if (path.empty() || openFiles().count(key(path))) return false;
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  std::ostringstream contents;
-  contents << in.rdbuf();
-  ProblemFile file = ProblemFile::forReading(contents.str());
+bool readProblem(std::string windows1252, const Exchange& exchange) {
   try {
+    ProblemFile file = ProblemFile::forReading(std::move(windows1252));
     exchange(file);
   } catch (const ReadFailed&) {
     return false;
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {  // a run-time error of a conversion, no memory
     return false;
   }
   return true;
+}
+
+bool openProblem(const std::string& path, const Exchange& exchange) {
+  if (path.empty() || openFiles().count(key(path))) return false;
+  // Only a regular file of a problem's size is read: a device, a pipe or a huge
+  // file fails like any other unreadable file.
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return false;
+  const auto size = std::filesystem::file_size(path, error);
+  if (error || size > kMaxProblemFileBytes) return false;
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  std::string contents(size, '\0');
+  in.read(contents.data(), static_cast<std::streamsize>(size));
+  contents.resize(static_cast<std::size_t>(in.gcount()));
+  return readProblem(std::move(contents), exchange);
 }
 
 bool saveProblem(const std::string& path, const Exchange& exchange) {

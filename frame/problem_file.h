@@ -13,7 +13,7 @@
 namespace vorel {
 
 class ProblemFile {
-public:
+ public:
   static ProblemFile forReading(std::string windows1252);
   static ProblemFile forWriting();
 
@@ -31,7 +31,7 @@ public:
   // The items written so far, as the bytes of the file.
   const std::string& bytes() const { return data_; }
 
-private:
+ private:
   struct Token {
     std::string text;
     bool quoted = false;
@@ -48,8 +48,16 @@ struct ReadFailed {};
 
 using Exchange = std::function<void(ProblemFile&)>;
 
+// The largest file abrir reads: real problems take a few kilobytes.
+inline constexpr std::size_t kMaxProblemFileBytes = 1 << 20;
+
+// Reads a problem's items from its bytes through `exchange`; false when the
+// read ended early (what was stored stays).
+bool readProblem(std::string windows1252, const Exchange& exchange);
+
 // abrir: reads the file into the fields through `exchange`. False when the
-// file could not be opened or the read ended early; what was stored stays.
+// file is not a regular file of at most kMaxProblemFileBytes, could not be
+// opened, or the read ended early; what was stored stays.
 bool openProblem(const std::string& path, const Exchange& exchange);
 
 // guardar: writes the items and flushes them, and keeps the file open for the

@@ -1,6 +1,9 @@
+#include "frame/problem_file.h"
+
 #include <gtest/gtest.h>
 
-#include "frame/problem_file.h"
+#include <filesystem>
+
 #include "tests/test_support.h"
 
 namespace vorel {
@@ -29,7 +32,7 @@ void exchange(ProblemFile& f, Sample& s) {
 }
 
 class ProblemFileTest : public ::testing::Test {
-protected:
+ protected:
   void TearDown() override { closeAllProblemFiles(); }
 };
 
@@ -89,16 +92,27 @@ TEST_F(ProblemFileTest, AQuoteInsideATitleBreaksTheReadingOfThatItem) {
 }
 
 TEST_F(ProblemFileTest, AnyFailureEndsSilentlyKeepingWhatWasStored) {
-  struct Case { const char* name; std::string bytes; bool missing; std::string title;
-                std::string value; bool visible; };
+  struct Case {
+    const char* name;
+    std::string bytes;
+    bool missing;
+    std::string title;
+    std::string value;
+    bool visible;
+  };
   const Case cases[] = {
       {"past the end", "\"uno\"\r\n\"dos\"\r\n", false, "uno", "dos", false},
       {"bad flag", "\"uno\"\r\n\"dos\"\r\n\"tal vez\"\r\n", false, "uno", "dos", false},
       {"empty file", "", false, "x", "y", false},
       {"missing file", "", true, "x", "y", false},
+      // Not a problem's file at all: read nothing, however it starts.
+      {"too large", "\"uno\"\r\n" + std::string(kMaxProblemFileBytes, ' '), false, "x", "y", false},
+      {"a folder", "", true, "x", "y", false},
+      {"/dev/zero", "", true, "x", "y", false},
   };
   for (const Case& c : cases) {
-    std::string path = tempPath("fail.txt");
+    std::string path = c.name[0] == '/' ? c.name : tempPath("fail.txt");
+    if (std::string(c.name) == "a folder") std::filesystem::create_directory(path);
     if (!c.missing) writeBytes(path, c.bytes);
     Sample s{"x", "y", false, false, 9, 9};
     EXPECT_FALSE(openProblem(path, [&](ProblemFile& f) { exchange(f, s); })) << c.name;
@@ -110,9 +124,13 @@ TEST_F(ProblemFileTest, AnyFailureEndsSilentlyKeepingWhatWasStored) {
 }
 
 TEST_F(ProblemFileTest, WholeNumbersConvertToSixteenBits) {
-  struct Case { const char* item; bool ok; int value; } cases[] = {
-      {"7", true, 7},   {"\"12\"", true, 12}, {"2.5", true, 2},  {"#TRUE#", true, -1},
-      {"40000", false, 0}, {"abc", false, 0}, {"\"\"", false, 0}, {"-32768", true, -32768},
+  struct Case {
+    const char* item;
+    bool ok;
+    int value;
+  } cases[] = {
+      {"7", true, 7},      {"\"12\"", true, 12}, {"2.5", true, 2},   {"#TRUE#", true, -1},
+      {"40000", false, 0}, {"abc", false, 0},    {"\"\"", false, 0}, {"-32768", true, -32768},
   };
   for (const auto& c : cases) {
     ProblemFile f = ProblemFile::forReading(std::string(c.item) + "\r\n");

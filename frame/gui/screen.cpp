@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "frame/gui/help_window.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/platform.h"
 
@@ -58,27 +59,36 @@ void Screen::buildChrome() {
   const bool sectionMenu = info_->kind == nav::Kind::SectionMenu;
   auto add = [this](PictureButton* b) { chrome_->addWidget(b); };
   if (info_->ayuda)
-    add(command(mainMenu ? "Image7" : "ayuda", "cmd-ayuda", "Ayuda", [] {
-      platform().startHelp(QCoreApplication::applicationDirPath() + "/VorelAyuda.hlp");
-    }, 30));
+    add(command(
+        mainMenu ? "Image7" : "ayuda", "cmd-ayuda", "Ayuda",
+        [this] {
+          platform().startHelp(helpFolder() + '/' + QString::fromStdString(nav::helpPage(name_)));
+        },
+        30));
   if (info_->gohome)
-    add(command("gohome", "cmd-gohome", "Pantalla de Inicio",
-                [this, &screens] { screens.gohome(*this); }, 30));
+    add(command(
+        "gohome", "cmd-gohome", "Pantalla de Inicio", [this, &screens] { screens.gohome(*this); },
+        30));
   if (!info_->volver.empty() && !sectionMenu)
-    add(command("volver", "cmd-volver", "Volver", [this, &screens] { screens.volver(*this); }, 30));
+    add(command(
+        "volver", "cmd-volver", "Volver", [this, &screens] { screens.volver(*this); }, 30));
   if (info_->minimizar)
-    add(command(mainMenu ? "Image11" : sectionMenu ? "Minimiz" : "minimizar", "cmd-minimizar",
-                "Minimizar", [this] { setWindowState(Qt::WindowMinimized); }, 30));
+    add(command(
+        mainMenu      ? "Image11"
+        : sectionMenu ? "Minimiz"
+                      : "minimizar",
+        "cmd-minimizar", "Minimizar", [this] { setWindowState(Qt::WindowMinimized); }, 30));
   if (info_->cerrar != nav::Cerrar::None)
-    add(command(mainMenu ? "Image10" : "cerrar", "cmd-cerrar", "Cerrar",
-                [this, &screens] { screens.cerrar(*this); }, 30));
+    add(command(
+        mainMenu ? "Image10" : "cerrar", "cmd-cerrar", "Cerrar",
+        [this, &screens] { screens.cerrar(*this); }, 30));
 }
 
 void Screen::run(const std::function<void()>& handler) {
   try {
     handler();
-  } catch (const RuntimeError& e) {
-    platform().runtimeError(e);
+  } catch (const std::exception& e) {  // run-time errors, and no memory as the platform's
+    platform().runtimeError(platformError(e));
   }
 }
 
@@ -87,7 +97,8 @@ PictureButton* Screen::command(const QString& objectName, const QString& picture
   auto* button = new PictureButton(picture, size, this);
   button->setObjectName(objectName);
   button->setToolTip(toolTip);
-  connect(button, &QAbstractButton::clicked, this, [handler = std::move(handler)] { run(handler); });
+  connect(button, &QAbstractButton::clicked, this,
+          [handler = std::move(handler)] { run(handler); });
   return button;
 }
 
