@@ -1,27 +1,33 @@
-// vorel-report: solves a problem file as the desktop program would and prints
-// the report of its solution screen, without opening any window.
-#include <cstring>
+// vorel-report: solves problem files as the desktop program would and prints
+// the report of each solution screen, without opening any window.
+#include <algorithm>
 #include <iostream>
 #include <string>
+#include <vector>
 
-#include "cli/models.h"
+#include "cli/options.h"
 #include "cli/pdf.h"
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 
 namespace {
 
+using namespace vorel;
+
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO [--print | --pdf SALIDA.pdf]\n\n"
-         "Lee FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
+         "     vorel-report MODELO FICHERO... [--print]\n"
+         "     vorel-report MODELO FICHERO --pdf SALIDA.pdf\n\n"
+         "Lee cada FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
+         "Con varios ficheros, cada informe va precedido de una línea «==> FICHERO <==».\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
-         "  --pdf F     escribe la página impresa como PDF en F\n\n"
-         "Estado de salida: 0 informe impreso; 1 comprobaciones no superadas (cada mensaje en\n"
-         "una línea de stderr); 2 fichero ilegible; 3 error en tiempo de ejecución;\n"
-         "4 el método no termina (la pantalla seguiría calculando sin fin).\n";
+         "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n\n"
+         "Estado de salida (el mayor de los ficheros): 0 informe impreso; 1 comprobaciones\n"
+         "no superadas (cada mensaje en una línea de stderr); 2 fichero ilegible; 3 error en\n"
+         "tiempo de ejecución; 4 el método no termina (la pantalla seguiría calculando sin fin).\n";
   bool any = false;
-  for (const auto& m : vorel::cli::models()) {
+  for (const auto& m : catalogue()) {
     if (m.presses.empty()) continue;
     if (!any) out << "\nÓrdenes que se pulsan antes de Resolver:\n";
     any = true;
@@ -29,61 +35,72 @@ void usage(std::ostream& out) {
   }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  using namespace vorel;
-  if (argc == 2 && std::strcmp(argv[1], "--list") == 0) {
-    for (const auto& m : cli::models()) std::cout << m.id << "\t" << m.screen << "\n";
-    return 0;
-  }
-  if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
-    usage(std::cout);
-    return 0;
-  }
-  bool print = false;
-  std::string pdf;
-  if (argc == 4 && std::strcmp(argv[3], "--print") == 0) {
-    print = true;
-  } else if (argc == 5 && std::strcmp(argv[3], "--pdf") == 0) {
-    pdf = argv[4];
-  } else if (argc != 3) {
-    usage(std::cerr);
-    return 2;
-  }
-  const cli::CliModel* model = cli::findModel(argv[1]);
-  if (!model) {
-    std::cerr << "Modelo desconocido: " << argv[1] << " (vorel-report --list los enumera)\n";
-    return 2;
-  }
+// Solves one file and prints its report; returns the exit status of that file.
+// `origin` heads the messages on stderr when several files are solved.
+int solve(const CatalogueEntry& model, const std::string& path, const cli::Options& options,
+          const std::string& origin) {
   try {
-    RunOutcome outcome = model->run(argv[2]);
+    RunOutcome outcome = model.run(path);
     switch (outcome.status) {
       case RunStatus::Unreadable:
-        std::cerr << "No se pudo leer el fichero: " << argv[2] << "\n";
+        std::cerr << "No se pudo leer el fichero: " << path << "\n";
         return 2;
       case RunStatus::CheckFailed:
-        for (const Message& m : outcome.messages) std::cerr << m.text << "\n";
+        for (const Message& m : outcome.messages) std::cerr << origin << m.text << "\n";
         return 1;
       default:
         break;
     }
-    if (!pdf.empty()) {
+    if (!options.pdf.empty()) {
       std::string error;
-      if (!cli::writePdf(outcome.pages.page, pdf, error)) {
+      if (!cli::writePdf(outcome.pages, options.pdf, error)) {
         std::cerr << error << "\n";
         return 2;
       }
       return 0;
     }
-    std::cout << renderText(print ? outcome.pages.page : outcome.pages.screen);
+    std::cout << renderText(options.print ? outcome.pages.page : outcome.pages.screen);
     return 0;
-  } catch (const RuntimeError& e) {
-    std::cerr << "Error " << e.number() << ": " << e.what() << "\n";
-    return 3;
   } catch (const DoesNotEnd&) {
-    std::cerr << "El método no termina: se detuvo tras " << kCommandLineStepBudget
+    std::cerr << origin << "El método no termina: se detuvo tras " << kCommandLineStepBudget
               << " pasos.\n";
     return 4;
+  } catch (const std::exception& e) {
+    const RuntimeError error = platformError(e);
+    std::cerr << origin << "Error " << error.number() << ": " << error.what() << "\n";
+    return 3;
   }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  const cli::Options options = cli::parseOptions(argc, argv);
+  if (options.list) {
+    for (const auto& m : catalogue()) std::cout << m.id << "\t" << m.screen << "\n";
+    return 0;
+  }
+  if (options.help) {
+    usage(std::cout);
+    return 0;
+  }
+  if (!options.valid()) {
+    usage(std::cerr);
+    return 2;
+  }
+  const CatalogueEntry* model = findModel(options.model);
+  if (!model) {
+    std::cerr << "Modelo desconocido: " << options.model << " (vorel-report --list los enumera)\n";
+    return 2;
+  }
+  if (!options.pdf.empty()) cli::handOverPdf(argv);  // returns only where this program writes PDF
+  const bool several = options.files.size() > 1;
+  int status = 0;
+  for (const std::string& path : options.files) {
+    if (several) std::cout << "==> " << path << " <==\n" << std::flush;
+    status = std::max(status, solve(*model, path, options, several ? path + ": " : ""));
+    std::cout.flush();
+  }
+  return status;
 }

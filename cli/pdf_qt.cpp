@@ -7,7 +7,10 @@
 
 namespace vorel::cli {
 
-bool writePdf(const Report& page, const std::string& path, std::string& error) {
+void handOverPdf(char**) {}  // this program writes PDF itself
+
+bool writePdf(const Pages& pages, const std::string& path, std::string& error) {
+  const Report& page = pages.page;
   if (!QGuiApplication::instance()) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static int argc = 1;
@@ -24,8 +27,7 @@ bool writePdf(const Report& page, const std::string& path, std::string& error) {
     error = "No se pudo escribir el PDF: " + path;
     return false;
   }
-  painter.setFont(gui::reportFont(gui::kPrinterPointSize));
-  gui::paintReport(painter, page, 0, [&writer] { writer.newPage(); });
+  gui::paintPage(painter, page, 0, [&writer] { writer.newPage(); });
   painter.end();
   return true;
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::decision {
@@ -74,8 +75,7 @@ Messages rediseñar(Electra1Fields& f) {
   const std::string criterios = selectorText(f.NumCriterios, kMaxCriterios);
   if (alternativas.empty()) return {{"Seleccione el número de Alternativas", ""}};
   if (criterios.empty()) return {{"Seleccione el número de Criterios", ""}};
-  aplicarForma(f, static_cast<int>(CDbl(alternativas)),
-               static_cast<int>(CDbl(criterios)));
+  aplicarForma(f, static_cast<int>(CDbl(alternativas)), static_cast<int>(CDbl(criterios)));
   return {};
 }
 
@@ -265,6 +265,11 @@ void exchange(ProblemFile& file, Electra1Fields& f) {
     file.text(head.caption);
     longItem(file, head.BackColor);
   }
+}
+
+CatalogueEntry catalogueElectra1() {
+  return catalogued<Electra1Fields>("electra1", "DecisionElectra1", "", exchange, check,
+                                    solveAndReport);
 }
 
 }  // namespace vorel::decision

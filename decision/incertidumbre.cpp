@@ -1,6 +1,7 @@
 #include "decision/incertidumbre.h"
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 
 namespace vorel::decision {
 
@@ -145,8 +146,7 @@ Messages rediseñar(IncertidumbreFields& f) {
   const std::string alternativas = selectorText(f.NumAlternativas, kMaxAlternativas);
   if (estados.empty()) return {{"Seleccione el número de estados", ""}};
   if (alternativas.empty()) return {{"Seleccione el número de alternativas", ""}};
-  aplicarForma(f, static_cast<int>(CDbl(alternativas)),
-               static_cast<int>(CDbl(estados)));
+  aplicarForma(f, static_cast<int>(CDbl(alternativas)), static_cast<int>(CDbl(estados)));
   return {};
 }
 
@@ -382,6 +382,13 @@ void exchange(ProblemFile& file, IncertidumbreFields& f) {
     }
     file.flag(f.LblAlternativas[i]);
   }
+}
+
+// The screen report is the Wald page, the one painted at activation; the
+// printed page has every criterion.
+CatalogueEntry catalogueIncertidumbre() {
+  return catalogued<IncertidumbreFields>("incertidumbre", "DecisionIncertidumbre", "", exchange,
+                                         check, solveAndReport);
 }
 
 }  // namespace vorel::decision

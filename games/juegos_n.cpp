@@ -1,6 +1,7 @@
 #include "games/juegos_n.h"
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::games {
@@ -14,7 +15,6 @@ const std::string kFueraDeRango =
 
 // A combo's text taken as a number: an empty combo is a type mismatch.
 int numeroCombo(int listIndex) { return static_cast<int>(CDbl(textoCombo(listIndex))); }
-
 
 double& celda(Tabla& t, int a, int b) { return item(item(t, a), b); }
 
@@ -99,9 +99,7 @@ const JuegosNFields::Celdas& JuegosNFields::array(int k) const {
   return *item(arrays, k - 1);
 }
 
-std::string textoCombo(int listIndex) {
-  return selectorText(listIndex, kMaxEstrategias);
-}
+std::string textoCombo(int listIndex) { return selectorText(listIndex, kMaxEstrategias); }
 
 void rediseñar(JuegosNFields& f) {
   const int n1 = numeroCombo(f.NDecA), n2 = numeroCombo(f.NDecB);
@@ -263,6 +261,10 @@ void exchange(ProblemFile& file, JuegosNFields& f) {
       file.text(c.text);
     }
   }
+}
+
+CatalogueEntry catalogueJuegosN() {
+  return catalogued<JuegosNFields>("juegosn", "Juegos_n", "", exchange, check, solveAndReport);
 }
 
 }  // namespace vorel::games

@@ -1,6 +1,7 @@
 #include "inventory/eoq.h"
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::inventory {
@@ -77,6 +78,11 @@ void exchange(ProblemFile& file, EoqFields& f) {
 
 void nuevo(EoqFields& f) {
   for (std::string* field : {&f.D, &f.E, &f.A, &f.TS, &f.dias, &f.P}) field->clear();
+}
+
+CatalogueEntry catalogueEoq() {
+  return catalogued<EoqFields>("cep", "GI_CantidadEconómicaPedido", "", exchange, check,
+                               solveAndReport);
 }
 
 }  // namespace vorel::inventory

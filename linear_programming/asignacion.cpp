@@ -1,6 +1,7 @@
 #include "linear_programming/asignacion.h"
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::linear_programming {
@@ -231,6 +232,11 @@ void exchange(ProblemFile& file, AsignacionFields& f) {
     file.flag(f.LblIndividuos[k]);
     file.flag(f.LblTareas[k]);
   }
+}
+
+CatalogueEntry catalogueAsignacion() {
+  return catalogued<AsignacionFields>("asignacion", "PL_Asignación", "", exchange, check,
+                                      solveAndReport);
 }
 
 }  // namespace vorel::linear_programming

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::linear_programming {
@@ -448,6 +449,12 @@ void exchange(ProblemFile& file, SimplexFields& f) {
     file.text(f.existencias[i].text);
     file.flag(f.existencias[i].visible);
   }
+}
+
+CatalogueEntry catalogueSimplex() {
+  return catalogued<SimplexFields>(
+      "simplex", "PL_Simplex", "", exchange, check,
+      [](SimplexFields& f) { return solveAndReport(f, kCommandLineStepBudget); });
 }
 
 }  // namespace vorel::linear_programming

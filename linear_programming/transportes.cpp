@@ -1,6 +1,7 @@
 #include "linear_programming/transportes.h"
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 #include "frame/checks.h"
 
 namespace vorel::linear_programming {
@@ -251,6 +252,19 @@ void exchange(ProblemFile& file, TransportesFields& f) {
     file.text(f.LblDestino[k].caption);
     file.flag(f.LblDestino[k].visible);
   }
+}
+
+// A degenerate first solution sends the screen back to the entry with its
+// message, after the checks: a file run goes through resolver().
+CatalogueEntry catalogueTransportes() {
+  return {"transporte", "PL_Transportes", "",
+          [](const std::string& path) -> RunOutcome {
+            TransportesFields fields;
+            if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))
+              return {RunStatus::Unreadable, {}, {}};
+            return resolver(fields, kCommandLineStepBudget);
+          },
+          [](const std::string& path) { return resave<TransportesFields>(path, exchange); }};
 }
 
 }  // namespace vorel::linear_programming

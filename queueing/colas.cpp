@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "frame/arith.h"
+#include "frame/catalogue.h"
 
 namespace vorel::queueing {
 
@@ -148,12 +149,12 @@ void nuevo(ColasFields& f) {
 }
 
 Messages check(const ColasFields& f) {
-  std::optional<Message> m = prueba(
-      f.S, 1, false,
-      "El valor correspondiente al número de servidores no existe, introduzca un valor "
-      "comprendido entre 1 y 255",
-      "El valor correspondiente al numero de servidores no es correcto, introduzca un valor "
-      "comprendido entre 1 y 255");
+  std::optional<Message> m =
+      prueba(f.S, 1, false,
+             "El valor correspondiente al número de servidores no existe, introduzca un valor "
+             "comprendido entre 1 y 255",
+             "El valor correspondiente al numero de servidores no es correcto, introduzca un valor "
+             "comprendido entre 1 y 255");
   if (!m && f.ColaLimitada)
     m = prueba(f.K, 1, false,
                "El valor correspondiente al tamaño de la línea de espera no existe, introduzca un "
@@ -207,10 +208,14 @@ int tipo(const ColasFields& f) {
   const bool uno = Val(f.S) == 1;
   if (f.ColaIlimitada) {
     switch (f.Servicios) {
-      case 0: return uno ? 1 : 2;
-      case 1: return 3;
-      case 2: return 4;
-      default: return 0;
+      case 0:
+        return uno ? 1 : 2;
+      case 1:
+        return 3;
+      case 2:
+        return 4;
+      default:
+        return 0;
     }
   }
   if (f.ColaLimitada) return uno ? 5 : 6;
@@ -256,8 +261,8 @@ ColasResults solve(const ColasFields& f) {
       break;
     }
     case 3:
-      r.Lq = Sng(divide(add(mul(power(r.V, 2), power(r.lambda, 2)), power(ro, 2)),
-                        sMul(2, sSub(1, ro))));
+      r.Lq = Sng(
+          divide(add(mul(power(r.V, 2), power(r.lambda, 2)), power(ro, 2)), sMul(2, sSub(1, ro))));
       probabilidadesUnServidor(r);
       break;
     case 4:
@@ -276,15 +281,16 @@ ColasResults solve(const ColasFields& f) {
     case 6: {
       double suma = 0;
       for (int n = 0; n <= s - 1; ++n) suma = add(suma, divide(power(rr, n), fact(n)));
-      suma = add(suma, divide(mul(divide(power(rr, s), fact(s)),
-                                  1 - power(ro, sAdd(sSub(K, s), 1))),
-                              sSub(1, ro)));
+      suma =
+          add(suma, divide(mul(divide(power(rr, s), fact(s)), 1 - power(ro, sAdd(sSub(K, s), 1))),
+                           sSub(1, ro)));
       const double P0 = divide(1, suma);
       float acumulada = 0;
       for (double n = s; n <= K; n += 1)
         acumulada = Sng(acumulada + mul(sSub(float(n), s), power(ro, sSub(float(n), s))));
       r.Lq = Sng(mul(divide(mul(acumulada, P0), fact(s)), power(rr, s)));
-      r.lambdaEf = Sng(mul(r.lambda, 1 - mul(divide(power(rr, K), mul(fact(s), power(s, sSub(K, s)))), P0)));
+      r.lambdaEf =
+          Sng(mul(r.lambda, 1 - mul(divide(power(rr, K), mul(fact(s), power(s, sSub(K, s)))), P0)));
       for (int n = 0; n <= 9; ++n) {
         if (n <= s) {
           P.push_back(texto(mul(divide(power(rr, n), fact(n)), P0)));
@@ -317,9 +323,9 @@ ColasResults solve(const ColasFields& f) {
     case 8: {
       auto termino = [&](int n) {  // without P0
         const double resto = fact(sSub(N, float(n)));
-        return n <= s ? mul(divide(fact(N), mul(resto, fact(n))), power(rr, n))
-                      : mul(divide(fact(N), mul(mul(resto, fact(s)), power(s, n - s))),
-                            power(rr, n));
+        return n <= s
+                   ? mul(divide(fact(N), mul(resto, fact(n))), power(rr, n))
+                   : mul(divide(fact(N), mul(mul(resto, fact(s)), power(s, n - s))), power(rr, n));
       };
       double suma = 0;
       for (int n = 0; n <= N; ++n) suma = add(suma, termino(n));
@@ -406,6 +412,10 @@ void exchange(ProblemFile& file, ColasFields& f) {
   file.listIndex(f.Servicios, static_cast<int>(kServicios.size()));
   if (file.reading()) serviciosClick(f);
   file.flag(f.ServiciosEnabled);
+}
+
+CatalogueEntry catalogueColas() {
+  return catalogued<ColasFields>("colas", "TeoriaColas", "", exchange, check, solveAndReport);
 }
 
 }  // namespace vorel::queueing

@@ -6,14 +6,16 @@
 // A run that does not print a report keeps its exit status and stderr in the
 // golden text. VOREL_UPDATE_GOLDEN=1 writes the golden files anew.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
-#include <sys/wait.h>
 
-#include "cli/models.h"
+#include "frame/catalogue.h"
 #include "tests/test_support.h"
 
 namespace vorel {
@@ -48,7 +50,7 @@ TEST(Examples, SolveToTheirGoldenText) {
   int count = 0;
   for (const auto& model : fs::directory_iterator(source / "examples")) {
     const std::string id = model.path().filename().string();
-    ASSERT_NE(cli::findModel(id), nullptr) << "examples for an unknown model: " << id;
+    ASSERT_NE(findModel(id), nullptr) << "examples for an unknown model: " << id;
     for (const auto& example : fs::directory_iterator(model.path())) {
       const fs::path golden = source / "tests" / "golden" / id / example.path().stem();
       const std::string file = example.path().string();
@@ -63,7 +65,7 @@ TEST(Examples, SolveToTheirGoldenText) {
 
 TEST(Examples, AreWrittenAsTheProgramWritesThem) {
   for (const auto& model : fs::directory_iterator(fs::path(VOREL_SOURCE_DIR) / "examples")) {
-    const cli::CliModel* m = cli::findModel(model.path().filename().string());
+    const CatalogueEntry* m = findModel(model.path().filename().string());
     ASSERT_NE(m, nullptr);
     for (const auto& example : fs::directory_iterator(model.path())) {
       const std::string file = example.path().string();
@@ -74,13 +76,35 @@ TEST(Examples, AreWrittenAsTheProgramWritesThem) {
 
 TEST(CommandLine, ListsModelsAndRejectsUnknownOnes) {
   const std::string list = transcript("--list");
-  for (const cli::CliModel& m : cli::models())
+  for (const CatalogueEntry& m : catalogue())
     EXPECT_NE(list.find(m.id + "\t" + m.screen + "\n"), std::string::npos) << m.id;
   EXPECT_EQ(transcript("nada x.txt"),
             "[salida 2]\nModelo desconocido: nada (vorel-report --list los enumera)\n");
   EXPECT_EQ(transcript("cep /no/such/file.txt"),
             "[salida 2]\nNo se pudo leer el fichero: /no/such/file.txt\n");
-  EXPECT_NE(cli::findModel("GI_CantidadEconómicaPedido"), nullptr);
+  EXPECT_NE(findModel("GI_CantidadEconómicaPedido"), nullptr);
+}
+
+// Options stand anywhere; several files are solved in turn, each headed by its
+// name, one file's failure neither stopping the others nor hiding its status.
+TEST(CommandLine, SolvesManyFilesWithOptionsAnywhere) {
+  const std::string ex = std::string(VOREL_SOURCE_DIR) + "/examples/";
+  const std::string book = ex + "cep/libro.txt", limits = ex + "cep/limites.txt";
+  EXPECT_EQ(transcript("--print cep " + book), transcript("cep " + book + " --print"));
+  EXPECT_EQ(transcript("cep " + book + " " + limits),
+            "==> " + book + " <==\n" + transcript("cep " + book) + "==> " + limits + " <==\n" +
+                transcript("cep " + limits));
+
+  const std::string zero = ex + "colas/ro-uno.txt", checks = ex + "cep/demanda-cero.txt";
+  EXPECT_EQ(transcript("colas " + zero + " " + ex + "colas/mm1.txt /dev/zero"),
+            "==> " + zero + " <==\n==> " + ex + "colas/mm1.txt <==\n" +
+                transcript("colas " + ex + "colas/mm1.txt") + "==> /dev/zero <==\n[salida 3]\n" +
+                zero + ": Error 11: División por cero\nNo se pudo leer el fichero: /dev/zero\n");
+  EXPECT_NE(transcript("cep " + checks + " " + book)
+                .find("[salida 1]\n" + checks + ": Valor de la demanda (D) no válido."),
+            std::string::npos);
+  EXPECT_EQ(transcript("cep").substr(0, 21), "[salida 2]\nUso: vorel");
+  EXPECT_EQ(transcript("cep " + book + " --pdf").substr(0, 21), "[salida 2]\nUso: vorel");
 }
 
 TEST(CommandLine, WritesThePrintedPageAsPdf) {
@@ -90,6 +114,16 @@ TEST(CommandLine, WritesThePrintedPageAsPdf) {
 #ifdef VOREL_PDF
   EXPECT_EQ(out, "");
   EXPECT_EQ(testing::readBytes(pdf).substr(0, 5), "%PDF-");
+  // Every word, the rule included, ends inside the right margin of the A4 page.
+  FILE* words = popen(("pdftotext -bbox '" + pdf + "' -").c_str(), "r");
+  double right = 0, xMax = 0;
+  char line[512];
+  while (fgets(line, sizeof line, words))
+    if (const char* at = std::strstr(line, "xMax=\""); at && std::sscanf(at, "xMax=\"%lf", &xMax))
+      right = std::max(right, xMax);
+  pclose(words);
+  EXPECT_GT(right, 500);
+  EXPECT_LE(right, 595.3 - 6 / 25.4 * 72);
 #else
   EXPECT_NE(out.find("[salida 2]\nEsta versión de vorel-report se construyó sin la biblioteca"),
             std::string::npos);

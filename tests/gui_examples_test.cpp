@@ -7,7 +7,7 @@
 #include <QDir>
 #include <QTimer>
 
-#include "cli/models.h"
+#include "frame/catalogue.h"
 #include "frame/gui/model_screens.h"
 #include "frame/navigation.h"
 #include "frame/problem_file.h"
@@ -23,7 +23,7 @@ bool startsWith(const std::string& s, const char* prefix) { return s.rfind(prefi
 
 TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
   int models = 0;
-  for (const cli::CliModel& model : cli::models()) {
+  for (const CatalogueEntry& model : catalogue()) {
     if (!screens().available(model.screen)) continue;
     ++models;
     const nav::ScreenInfo* entry = nav::findScreen(model.screen);
@@ -82,7 +82,7 @@ TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
 }
 
 TEST_F(ExamplesOnScreen, GuardarWritesThemBackAndAbrirWaitsForALaterRun) {
-  for (const cli::CliModel& model : cli::models()) {
+  for (const CatalogueEntry& model : catalogue()) {
     if (!screens().available(model.screen)) continue;
     const QDir dir(examplePath(model.id, {}));
     const QString file = dir.entryList(QDir::Files, QDir::Name).first();

@@ -4,7 +4,7 @@
 
 #include <QDir>
 
-#include "cli/models.h"
+#include "frame/catalogue.h"
 #include "frame/gui/model_screens.h"
 #include "frame/navigation.h"
 #include "tests/gui_support.h"
@@ -32,7 +32,7 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
     }
     // A model's entry: open its first example as a student would, then
     // picture the entry and the solution that Resolver shows.
-    const cli::CliModel* model = cli::findModel(info.name);
+    const CatalogueEntry* model = findModel(info.name);
     if (!model) continue;
     const QDir examples(QString(VOREL_SOURCE_DIR) + "/examples/" + QString::fromStdString(model->id));
     save(s, dir, info.name);

@@ -7,6 +7,9 @@
 
 #include "frame/gui/picture_button.h"
 
+// The pictures live in the library's resources, which a static link must pull in.
+static void initPictures() { Q_INIT_RESOURCE(vorel); }
+
 namespace vorel::gui {
 
 namespace {
@@ -18,23 +21,42 @@ struct Topic {
 
 // The picture of each choice, by the screen it opens.
 constexpr Topic kPictures[] = {
-    {"ProgramaciónLineal", "programacion-lineal"}, {"DecisionTeoria", "teoria-decision"},
-    {"Juegos", "teoria-juegos"}, {"TeoriaColas", "teoria-colas"},
-    {"GestiónDeInventarios", "inventarios"}, {"Localizacion_P", "localizacion"},
-    {"SelecEquipos", "seleccion-equipos"}, {"ControlCal", "control-calidad"},
-    {"Productividad", "productividad"}, {"C_Experiencia", "curvas-experiencia"},
-    {"DistribucionFisica", "distribucion-fisica"}, {"PL_Simplex", "simplex"},
-    {"PL_Asignación", "asignacion"}, {"PL_Transportes", "transporte"},
-    {"DecisionRiesgoNobayesiano", "riesgo"}, {"DecisionIncertidumbre", "incertidumbre"},
-    {"DecisionMulticriterio", "multicriterio"}, {"DecisionElectra1", "electra1"},
-    {"DecisionElectra2", "electra2"}, {"GI_DemandaIndependiente", "demanda-independiente"},
-    {"GI_MRP", "mrp"}, {"GI_CantidadEconómicaPedido", "cep"}, {"GI_CEPGradual", "cep-gradual"},
-    {"GI_CEPRuptura", "cep-ruptura"}, {"GI_CEPDescuento", "cep-descuento"},
-    {"Juegos_2", "juegos-2"}, {"Juegos_3", "juegos-3"}, {"Juegos_n", "juegos-n"},
-    {"Localizacion_CG", "centro-gravedad"}, {"Localizacion_PF", "localizacion-factores"},
-    {"Selec_Pond", "equipos-factores"}, {"Selec_Van", "van"},
-    {"Select_C_Totales", "costes-totales"}, {"ControlCal_V", "control-variables"},
-    {"ControlCal_AtribP", "control-atributos"}, {"ControlCal_NDef", "control-defectos"},
+    {"ProgramaciónLineal", "programacion-lineal"},
+    {"DecisionTeoria", "teoria-decision"},
+    {"Juegos", "teoria-juegos"},
+    {"TeoriaColas", "teoria-colas"},
+    {"GestiónDeInventarios", "inventarios"},
+    {"Localizacion_P", "localizacion"},
+    {"SelecEquipos", "seleccion-equipos"},
+    {"ControlCal", "control-calidad"},
+    {"Productividad", "productividad"},
+    {"C_Experiencia", "curvas-experiencia"},
+    {"DistribucionFisica", "distribucion-fisica"},
+    {"PL_Simplex", "simplex"},
+    {"PL_Asignación", "asignacion"},
+    {"PL_Transportes", "transporte"},
+    {"DecisionRiesgoNobayesiano", "riesgo"},
+    {"DecisionIncertidumbre", "incertidumbre"},
+    {"DecisionMulticriterio", "multicriterio"},
+    {"DecisionElectra1", "electra1"},
+    {"DecisionElectra2", "electra2"},
+    {"GI_DemandaIndependiente", "demanda-independiente"},
+    {"GI_MRP", "mrp"},
+    {"GI_CantidadEconómicaPedido", "cep"},
+    {"GI_CEPGradual", "cep-gradual"},
+    {"GI_CEPRuptura", "cep-ruptura"},
+    {"GI_CEPDescuento", "cep-descuento"},
+    {"Juegos_2", "juegos-2"},
+    {"Juegos_3", "juegos-3"},
+    {"Juegos_n", "juegos-n"},
+    {"Localizacion_CG", "centro-gravedad"},
+    {"Localizacion_PF", "localizacion-factores"},
+    {"Selec_Pond", "equipos-factores"},
+    {"Selec_Van", "van"},
+    {"Select_C_Totales", "costes-totales"},
+    {"ControlCal_V", "control-variables"},
+    {"ControlCal_AtribP", "control-atributos"},
+    {"ControlCal_NDef", "control-defectos"},
     {"Productividad_Simple", "productividad-parcial"},
     {"Productividad_Global", "productividad-global"},
     {"Distribucion_CargaDistancia", "carga-distancia"},
@@ -48,10 +70,18 @@ struct Section {
 
 // Section colours, by the first letters of a screen's name.
 constexpr Section kSections[] = {
-    {"PL_", 0x3B6FD8}, {"ProgramaciónLineal", 0x3B6FD8}, {"Decision", 0x8A4FD1},
-    {"Juegos", 0xD9495B}, {"TeoriaColas", 0x1FA6A6}, {"GI_", 0xE38B2C},
-    {"GestiónDeInventarios", 0xE38B2C}, {"Localizacion", 0x2E9E5B}, {"Selec", 0x5A6B7D},
-    {"ControlC", 0xC23C8C}, {"Productividad", 0xD4A017}, {"C_Experiencia", 0x3C8DBC},
+    {"PL_", 0x3B6FD8},
+    {"ProgramaciónLineal", 0x3B6FD8},
+    {"Decision", 0x8A4FD1},
+    {"Juegos", 0xD9495B},
+    {"TeoriaColas", 0x1FA6A6},
+    {"GI_", 0xE38B2C},
+    {"GestiónDeInventarios", 0xE38B2C},
+    {"Localizacion", 0x2E9E5B},
+    {"Selec", 0x5A6B7D},
+    {"ControlC", 0xC23C8C},
+    {"Productividad", 0xD4A017},
+    {"C_Experiencia", 0x3C8DBC},
     {"Distribucion", 0x7A5C3E},
 };
 
@@ -162,14 +192,15 @@ MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
     const bool strip = choice.target.empty();
     const std::string target = choice.target, hides = choice.hides, self = menu.name;
     const QString art = choice.label == "Volver" ? QStringLiteral("volver") : choicePicture(target);
-    auto* picture = command(QString::fromStdString(choice.picture), art, {},
-                            [&screens, target, hides] {
-                              // The main menu hides first; section menus show first.
-                              if (hides == "APrincipal") screens.hide(hides);
-                              if (!target.empty()) screens.show(target);
-                              if (hides != "APrincipal") screens.hide(hides);
-                            },
-                            size);
+    auto* picture = command(
+        QString::fromStdString(choice.picture), art, {},
+        [&screens, target, hides] {
+          // The main menu hides first; section menus show first.
+          if (hides == "APrincipal") screens.hide(hides);
+          if (!target.empty()) screens.show(target);
+          if (hides != "APrincipal") screens.hide(hides);
+        },
+        size);
     if (strip) {
       picture->setFixedSize(size * 4, size / 2);
       body()->addWidget(picture);
@@ -195,6 +226,7 @@ MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
 }
 
 void registerMenuScreens() {
+  initPictures();
   Screens& screens = Screens::instance();
   screens.add("AInicio", [] { return new StartScreen(); });
   for (const nav::MenuInfo& menu : nav::menus())

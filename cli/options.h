@@ -1,0 +1,26 @@
+// The command line of vorel-report: options may stand anywhere among the
+// model and the files.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vorel::cli {
+
+struct Options {
+  bool list = false, help = false, print = false;
+  std::string pdf;  // --pdf OUT
+  std::string model;
+  std::vector<std::string> files;
+  bool bad = false;  // an unknown option, or --pdf without its file
+  // A model, at least one file, and --pdf only with exactly one file.
+  bool valid() const {
+    return !bad && !model.empty() && !files.empty() && (pdf.empty() || files.size() == 1) &&
+           !(print && !pdf.empty());
+  }
+};
+
+// "--" ends the options: what follows is a model or a file even if it starts with "-".
+Options parseOptions(int argc, const char* const* argv);
+
+}  // namespace vorel::cli
