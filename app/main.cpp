@@ -6,6 +6,7 @@
 #include "frame/gui/platform.h"
 #include "frame/gui/printing.h"
 #include "frame/gui/screen.h"
+#include "frame/gui/session.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -13,6 +14,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the process lives while a screen is loaded
   QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), 10));
   using namespace vorel::gui;
+  loadSpanishDialogs(app);
+  finishPrintsAtEveryEnd(app);
   Screens& screens = Screens::instance();
   screens.onNoScreenLoaded = [] { platform().endProcess(); };
   registerAllScreens();

@@ -7,7 +7,8 @@ packages=(
   build-essential cmake ninja-build clang libclang-rt-14-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins libgl-dev
-  xvfb xauth fonts-liberation poppler-utils imagemagick
+  qt6-translations-l10n
+  xvfb xauth fonts-liberation poppler-utils imagemagick librsvg2-bin dpkg-dev lintian
 )
 
 missing=()

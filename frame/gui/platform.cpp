@@ -1,17 +1,17 @@
 #include "frame/gui/platform.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProcess>
-#include <QUrl>
 #include <cstdlib>
 
+#include "frame/gui/help_window.h"
 #include "frame/gui/printing.h"
+#include "frame/gui/screen.h"
+#include "frame/gui/session.h"
 
 namespace vorel::gui {
 
@@ -36,7 +36,11 @@ QStringList dialogFilters(const QString& filter) {
     if (parts[i].isEmpty()) continue;
     QString name = parts[i];
     name.remove('_');  // an accelerator mark in the original filter name
-    filters << QStringLiteral("%1 (%2)").arg(name, parts[i + 1]);
+    // "*.*" meant every file where it was written; here it would hide the
+    // files without an extension. The pattern in the last brackets is the one
+    // Qt matches, and the dialog hides it, so the label reads as given.
+    QString pattern = parts[i + 1] == QStringLiteral("*.*") ? QStringLiteral("*") : parts[i + 1];
+    filters << QStringLiteral("%1 (%2)").arg(name, pattern);
   }
   return filters;
 }
@@ -60,33 +64,50 @@ void QtPlatform::errorBox(const QString& text) {
   box.exec();
 }
 
-std::optional<QString> QtPlatform::openDialog(const QString& filter, int filterIndex) {
+std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QString& filter,
+                                        int filterIndex) {
   const QStringList filters = dialogFilters(filter);
-  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Abrir"));
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  dialog.setNameFilters(filters);
-  dialog.selectNameFilter(selectedFilter(filters, filterIndex));
+  const bool opening = mode == QFileDialog::AcceptOpen;
+  auto dialog = std::make_unique<QFileDialog>(
+      QApplication::activeWindow(),
+      opening ? QStringLiteral("Abrir") : QStringLiteral("Guardar como"));
+  dialog->setAcceptMode(mode);
+  dialog->setFileMode(opening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog->setOption(QFileDialog::DontConfirmOverwrite, !opening);
+  dialog->setOption(QFileDialog::HideNameFilterDetails, true);
+  dialog->setNameFilters(filters);
+  dialog->selectNameFilter(selectedFilter(filters, filterIndex));
+  return dialog;
+}
+
+namespace {
+std::optional<QString> chosenFile(QFileDialog& dialog) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return dialog.selectedFiles().first();
+}
+}  // namespace
+
+std::optional<QString> QtPlatform::openDialog(const QString& filter, int filterIndex) {
+  return chosenFile(*fileDialog(QFileDialog::AcceptOpen, filter, filterIndex));
 }
 
 std::optional<QString> QtPlatform::saveDialog(const QString& filter, int filterIndex,
                                               const QString& fileName) {
-  const QStringList filters = dialogFilters(filter);
-  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Guardar como"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
-  dialog.setNameFilters(filters);
-  dialog.selectNameFilter(selectedFilter(filters, filterIndex));
-  dialog.selectFile(fileName);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return dialog.selectedFiles().first();
+  auto dialog = fileDialog(QFileDialog::AcceptSave, filter, filterIndex);
+  dialog->selectFile(fileName);
+  return chosenFile(*dialog);
 }
 
 void QtPlatform::printerDialog() {
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   dialog.exec();
+  // Cancel still prints: where the only printer is the PDF writer, the page
+  // goes to a file named after the model rather than nowhere.
+  QString model = QStringLiteral("Vorel");
+  if (auto* screen = qobject_cast<Screen*>(QApplication::activeWindow()); screen && screen->info())
+    model = QString::fromStdString(screen->info()->entry.empty() ? screen->name()
+                                                                 : screen->info()->entry);
+  giveDefaultPdfFile(printer(), model);
 }
 
 QPrinter& QtPlatform::printer() {
@@ -104,15 +125,7 @@ void QtPlatform::runtimeError(const RuntimeError& e) {
   endProcess();
 }
 
-void QtPlatform::startHelp(const QString& path) {
-#ifdef Q_OS_WIN
-  QProcess::startDetached(QStringLiteral("rundll32.exe"),
-                          {QStringLiteral("url.dll,FileProtocolHandler"),
-                           QDir::toNativeSeparators(path)});
-#else
-  QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-#endif
-}
+void QtPlatform::startHelp(const QString& path) { HelpWindow::instance().showPage(path); }
 
 void QtPlatform::endProcess() {
   finishPrinterDocument();

@@ -2,8 +2,10 @@
 // through this one interface, so tests can script it without a real dialog.
 #pragma once
 
+#include <QFileDialog>
 #include <QImage>
 #include <QString>
+#include <memory>
 #include <optional>
 
 #include "frame/arith.h"
@@ -14,7 +16,7 @@ class QPrinter;
 namespace vorel::gui {
 
 class Platform {
-public:
+ public:
   virtual ~Platform() = default;
 
   // A message box titled "Error" with one OK button and no icon.
@@ -29,7 +31,7 @@ public:
   virtual QPrinter& printer() = 0;
   // The platform's box for a run-time error, then the end of the process.
   virtual void runtimeError(const RuntimeError& e) = 0;
-  // Opens the help file with the desktop's own handler.
+  // Shows a help page (a file of the help folder) in the program's help window.
   virtual void startHelp(const QString& path) = 0;
   // Ends the process at once; the gathered printer document goes out first.
   virtual void endProcess() = 0;
@@ -44,10 +46,13 @@ inline const QString kSaveFilter = QStringLiteral("All Files (*.*)|*.*|Text _Fil
 
 // Turns "Name|pattern|Name|pattern" into Qt's dialog filters.
 QStringList dialogFilters(const QString& filter);
+// The file dialog of abrir (AcceptOpen) or guardar (AcceptSave), not yet shown.
+std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QString& filter,
+                                        int filterIndex);
 
 // The Qt implementation used by the desktop program.
 class QtPlatform : public Platform {
-public:
+ public:
   QtPlatform();
   ~QtPlatform() override;
   void errorBox(const QString& text) override;
@@ -60,7 +65,7 @@ public:
   void startHelp(const QString& path) override;
   void endProcess() override;
 
-private:
+ private:
   QPrinter* printer_ = nullptr;
 };
 

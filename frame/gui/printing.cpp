@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -19,7 +20,7 @@ QFont reportFont(double pointSize) {
 }
 
 double averageCharWidth(const QFontMetricsF& metrics) {
-  static constexpr int kWeights[27] = {64, 14, 27, 35, 100, 20, 14, 42, 63, 3,  6,  35, 20, 56,
+  static constexpr int kWeights[27] = {64, 14, 27, 35, 100, 20, 14, 42, 63, 3, 6,  35, 20, 56,
                                        56, 17, 4,  49, 56,  71, 31, 10, 18, 3, 18, 2,  166};
   double sum = 0;
   for (int k = 0; k < 26; ++k) sum += kWeights[k] * metrics.horizontalAdvance(QChar('a' + k));
@@ -46,6 +47,25 @@ double paintReport(QPainter& painter, const Report& report, double top,
     y += metrics.lineSpacing();
   }
   return y;
+}
+
+double paintPage(QPainter& painter, const Report& page, double top,
+                 const std::function<void()>& newPage) {
+  painter.setFont(reportFont(kPrinterPointSize));
+  const QFontMetricsF metrics(painter.font(), painter.device());
+  const double zone = kZoneColumns * averageCharWidth(metrics);
+  double widest = 0;
+  for (const LaidOutLine& line : layout(page, zone, [&](const std::string& s) {
+         return metrics.horizontalAdvance(QString::fromStdString(s));
+       }))
+    for (const PlacedText& piece : line)
+      widest =
+          std::max(widest, piece.x + metrics.horizontalAdvance(QString::fromStdString(piece.text)));
+  // A line wider than the printable area (the rule, at 12 pt) takes a
+  // slightly smaller type for the whole report rather than pass the margin.
+  const double room = painter.device()->width();
+  if (widest > room) painter.setFont(reportFont(kPrinterPointSize * room / widest * 0.995));
+  return paintReport(painter, page, top, newPage);
 }
 
 void preparePage(QPagedPaintDevice& device) {
@@ -77,7 +97,6 @@ QPainter& beginIfNeeded() {
     }
     d.y = 0;
   }
-  d.painter->setFont(reportFont(kPrinterPointSize));
   return *d.painter;
 }
 
@@ -87,7 +106,7 @@ void printReport(const Report& page) {
   Document& d = document();
   QPainter& painter = beginIfNeeded();
   auto* printer = static_cast<QPrinter*>(painter.device());
-  d.y = paintReport(painter, page, d.y, [printer] { printer->newPage(); });
+  d.y = paintPage(painter, page, d.y, [printer] { printer->newPage(); });
 }
 
 void printChartPage(const Report& page, const QImage& chart, double leftFraction,

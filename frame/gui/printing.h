@@ -31,7 +31,12 @@ double averageCharWidth(const QFontMetricsF& metrics);
 double paintReport(QPainter& painter, const Report& report, double top,
                    const std::function<void()>& newPage = {});
 
-// Narrow margins, so a report's rule fits the width of the page.
+// Paints a printed page in the printer's type (12 pt), made just small enough
+// that its widest line stays inside the printable area.
+double paintPage(QPainter& painter, const Report& page, double top,
+                 const std::function<void()>& newPage = {});
+
+// Narrow margins around the printable area.
 void preparePage(QPagedPaintDevice& device);
 
 // Imprimir of a text report: the lines go on in the open document.
