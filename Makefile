@@ -7,7 +7,7 @@ JOBS ?= $(shell nproc)
 FUZZ_SECONDS ?= 20
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test fuzz bench screenshots clean
+.PHONY: all deps configure build run test fuzz bench screenshots package clean
 
 all: build
 
@@ -28,17 +28,24 @@ test: build
 	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 	@$(MAKE) --no-print-directory fuzz
 
-fuzz: deps
+fuzz: configure
+	@cmake --build $(BUILD) -j $(JOBS) --target vorel-report
 	@cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
 	  -DVOREL_GUI=OFF -DVOREL_TESTS=OFF -DVOREL_FUZZ=ON > /dev/null
-	@cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_problem_file
-	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_problem_file $(FUZZ_SECONDS)
+	@cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_problem_file fuzz_models
+	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_problem_file 5
+	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_models $(FUZZ_SECONDS) $(BUILD)/vorel-report
 
 bench: deps
 	@cmake -S . -B $(BENCH_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release -DVOREL_GUI=OFF \
 	  -DVOREL_TESTS=OFF -DVOREL_BENCH=ON > /dev/null
 	@cmake --build $(BENCH_BUILD) -j $(JOBS) --target vorel_bench
 	@$(BENCH_BUILD)/bench/vorel_bench
+
+# A Debian package of both programs, the help and the examples, checked by lintian.
+package: build
+	@cd $(BUILD) && cpack -G DEB > /dev/null && ls vorel_*.deb
+	@lintian --fail-on error $(BUILD)/vorel_*.deb
 
 screenshots: build
 	@scripts/screenshots.sh $(BUILD)

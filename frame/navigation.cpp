@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <utility>
 
 namespace vorel::nav {
 namespace {
@@ -17,13 +18,13 @@ constexpr const char* kEndsProcess[] = {
     "ControlCal", "Juegos", "SelecEquipos",
     // location and equipment selection, entry and solution screens
     // (Select_C_Totales_Sol unloads only, unlike its three-option sibling)
-    "Localizacion_CG", "Localizacion_CG_Solucion", "Localizacion_PF",
-    "Localizacion_PF_Solucion", "Selec_Pond", "Selec_Pond_Solucion", "Selec_Van",
-    "Selec_Van_Solucion", "Select_C_Totales", "Select_C_Totales_Sol1",
+    "Localizacion_CG", "Localizacion_CG_Solucion", "Localizacion_PF", "Localizacion_PF_Solucion",
+    "Selec_Pond", "Selec_Pond_Solucion", "Selec_Van", "Selec_Van_Solucion", "Select_C_Totales",
+    "Select_C_Totales_Sol1",
     // quality control, entry and solution screens
     "ControlCal_V", "ControlCal_V_Sol", "ControlCal_V_Sol2", "ControlCal_V_Sol3",
-    "ControlCal_AtribP", "ControlCAl_AtribP_Sol", "ControlCal_AtribNP_Sol",
-    "ControlCal_NDef", "ControlCal_NDef_Sol", "ControlCal_NDef_Sol1",
+    "ControlCal_AtribP", "ControlCAl_AtribP_Sol", "ControlCal_AtribNP_Sol", "ControlCal_NDef",
+    "ControlCal_NDef_Sol", "ControlCal_NDef_Sol1",
     // the rest
     "C_Experiencia", "C_Experiencia_Sol", "GI_MRP", "GI_MRP_Solucion1", "Juegos_2",
     "Juegos_2_Solucion", "Juegos_3", "Juegos_3_Solucion"};
@@ -56,65 +57,138 @@ struct Model {
 const std::vector<Model>& models() {
   static const std::vector<Model> m = {
       {"PL_Simplex", "Simplex", "ProgramaciónLineal", {{"PL_Simplex_Solucion", "Form1"}}, {}},
-      {"PL_Transportes", "Problema del Transporte", "ProgramaciónLineal",
-       {{"PL_Transportes_Solución"}}, {}},
-      {"PL_Asignación", "Problemas de Asignación", "ProgramaciónLineal",
-       {{"PL_Asignación_Solución"}}, {}},
-      {"DecisionIncertidumbre", "Toma de Decisiones en Ambiente de Incertidumbre",
-       "DecisionTeoria", {{"DecisionIncertidumbre_solucion"}}, {}},
-      {"DecisionRiesgoNobayesiano", "Toma de decisiones en Ambiente de Riesgo", "DecisionTeoria",
-       {{"DecisionRiesgoNobayesiano_solucion"}}, {}},
-      {"DecisionElectra1", "Método multicriterio Electra 1", "DecisionMulticriterio",
-       {{"DecisionElectra1_solucion"}}, {}},
-      {"DecisionElectra2", "Método multicriterio: Electra 2", "DecisionMulticriterio",
-       {{"DecisionElectra2_solucion"}}, {}},
+      {"PL_Transportes",
+       "Problema del Transporte",
+       "ProgramaciónLineal",
+       {{"PL_Transportes_Solución"}},
+       {}},
+      {"PL_Asignación",
+       "Problemas de Asignación",
+       "ProgramaciónLineal",
+       {{"PL_Asignación_Solución"}},
+       {}},
+      {"DecisionIncertidumbre",
+       "Toma de Decisiones en Ambiente de Incertidumbre",
+       "DecisionTeoria",
+       {{"DecisionIncertidumbre_solucion"}},
+       {}},
+      {"DecisionRiesgoNobayesiano",
+       "Toma de decisiones en Ambiente de Riesgo",
+       "DecisionTeoria",
+       {{"DecisionRiesgoNobayesiano_solucion"}},
+       {}},
+      {"DecisionElectra1",
+       "Método multicriterio Electra 1",
+       "DecisionMulticriterio",
+       {{"DecisionElectra1_solucion"}},
+       {}},
+      {"DecisionElectra2",
+       "Método multicriterio: Electra 2",
+       "DecisionMulticriterio",
+       {{"DecisionElectra2_solucion"}},
+       {}},
       {"Juegos_2", " Juegos con 2 jugadores", "Juegos", {{"Juegos_2_Solucion"}}, {}},
       {"Juegos_3", "Juegos con 3 jugadores", "Juegos", {{"Juegos_3_Solucion"}}, {}},
       {"Juegos_n", "Juegos con n Estrategias", "Juegos", {{"Juegos_n_solucion"}}, {}},
       {"TeoriaColas", "Teoría de Colas", "", {{"TeoriaColas_Solucion"}}, {}},
-      {"GI_CantidadEconómicaPedido", "Cantidad Económica de Pedido", "GI_DemandaIndependiente",
-       {{"GI_CantidadEconómicaPedido_Solución", "Solución "}}, {}},
-      {"GI_CEPGradual", "Cantidad Económica de Pedido con Suministro Gradual",
-       "GI_DemandaIndependiente", {{"GI_CEPGradual_Solución"}}, {}},
-      {"GI_CEPRuptura", "Cantidad Económica de Pedido con Ruptura", "GI_DemandaIndependiente",
-       {{"GI_CEPRuptura_Solución"}}, {}},
-      {"GI_CEPDescuento", "Cantidad Económica de Pedido con Descuento",
-       "GI_DemandaIndependiente", {{"GI_CEPDescuento_Solución"}}, {}},
+      {"GI_CantidadEconómicaPedido",
+       "Cantidad Económica de Pedido",
+       "GI_DemandaIndependiente",
+       {{"GI_CantidadEconómicaPedido_Solución", "Solución "}},
+       {}},
+      {"GI_CEPGradual",
+       "Cantidad Económica de Pedido con Suministro Gradual",
+       "GI_DemandaIndependiente",
+       {{"GI_CEPGradual_Solución"}},
+       {}},
+      {"GI_CEPRuptura",
+       "Cantidad Económica de Pedido con Ruptura",
+       "GI_DemandaIndependiente",
+       {{"GI_CEPRuptura_Solución"}},
+       {}},
+      {"GI_CEPDescuento",
+       "Cantidad Económica de Pedido con Descuento",
+       "GI_DemandaIndependiente",
+       {{"GI_CEPDescuento_Solución"}},
+       {}},
       {"GI_MRP", "MRP", "GestiónDeInventarios", {{"GI_MRP_Solucion1", "Solución", ""}}, {}, true},
-      {"Localizacion_CG", "Localización por Centro de Gravedad", "Localizacion_P",
-       {{"Localizacion_CG_Solucion"}}, {}, true},
-      {"Localizacion_PF", "Localización por Ponderación de Factores", "Localizacion_P",
-       {{"Localizacion_PF_Solucion"}}, {}},
-      {"Selec_Pond", "Criterio de Ponderación de Factores", "SelecEquipos",
-       {{"Selec_Pond_Solucion"}}, {}, true},
+      {"Localizacion_CG",
+       "Localización por Centro de Gravedad",
+       "Localizacion_P",
+       {{"Localizacion_CG_Solucion"}},
+       {},
+       true},
+      {"Localizacion_PF",
+       "Localización por Ponderación de Factores",
+       "Localizacion_P",
+       {{"Localizacion_PF_Solucion"}},
+       {}},
+      {"Selec_Pond",
+       "Criterio de Ponderación de Factores",
+       "SelecEquipos",
+       {{"Selec_Pond_Solucion"}},
+       {},
+       true},
       {"Selec_Van", "Criterio del Van", "SelecEquipos", {{"Selec_Van_Solucion"}}, {}, true},
-      {"Select_C_Totales", "Costes Totales", "SelecEquipos",
-       {{"Select_C_Totales_Sol"}, {"Select_C_Totales_Sol1", "Solución   "}}, {}, false,
+      {"Select_C_Totales",
+       "Costes Totales",
+       "SelecEquipos",
+       {{"Select_C_Totales_Sol"}, {"Select_C_Totales_Sol1", "Solución   "}},
+       {},
+       false,
        {"Select_C_Totales_Sol_Imprimir", "Select_C_Totales_Sol1_Imprimir"}},
       // Resolver shows only the chart of means; the other two charts are
       // reached from it, and their volver goes back to it.
-      {"ControlCal_V", "Control por Variables. Control de Medias.", "ControlCal",
+      {"ControlCal_V",
+       "Control por Variables. Control de Medias.",
+       "ControlCal",
        {{"ControlCal_V_Sol"},
         {"ControlCal_V_Sol2", "Solución", "ControlCal_V_Sol"},
         {"ControlCal_V_Sol3", "Solución", "ControlCal_V_Sol"}},
-       {"ControlCal_V_Sol"}, false,
+       {"ControlCal_V_Sol"},
+       false,
        {"ControlCal_V_Sol_Imprimir", "ControlCal_V_Sol2_Imprimir", "ControlCal_V_Sol3_Imprimir"}},
-      {"ControlCal_AtribP", "Control por Atributos", "ControlCal",
+      {"ControlCal_AtribP",
+       "Control por Atributos",
+       "ControlCal",
        {{"ControlCAl_AtribP_Sol"}, {"ControlCal_AtribNP_Sol", "Solución", "ControlCal_AtribP"}},
-       {}, false, {"ControlCal_AtribP_Sol_Imprimir", "ControlCal_AtribNP_Sol_Imprimir"}},
-      {"ControlCal_NDef", "Control por Número de Defectos", "ControlCal",
-       {{"ControlCal_NDef_Sol"}, {"ControlCal_NDef_Sol1"}}, {}, false,
+       {},
+       false,
+       {"ControlCal_AtribP_Sol_Imprimir", "ControlCal_AtribNP_Sol_Imprimir"}},
+      {"ControlCal_NDef",
+       "Control por Número de Defectos",
+       "ControlCal",
+       {{"ControlCal_NDef_Sol"}, {"ControlCal_NDef_Sol1"}},
+       {},
+       false,
        {"ControlCal_NDef_Sol_Imprimir", "ControlCal_NDef_Sol1_Imprimir"}},
-      {"Productividad_Simple", "Productividad Parcial", "Productividad",
-       {{"Productividad_Simple_Solucion", "Solución "}}, {}},
-      {"Productividad_Global", "Productividad Global", "Productividad",
-       {{"Productividad_Global_Solucion"}}, {}},
-      {"C_Experiencia", "Curvas de Experiencia", "", {{"C_Experiencia_Sol", "Solución "}}, {},
-       false, {"C_Experiencia_Sol_Imprimir"}},
-      {"Distribucion_CargaDistancia", "Análisis Carga-Distancia", "DistribucionFisica",
-       {{"Distribucion_Cargadistancia_Solucion"}}, {}},
-      {"Distribucion_Equlibrado", "Equilibrado de Líneas de Fabricación o Montaje",
-       "DistribucionFisica", {{"Distribucion_Equilibrado_Solucion"}}, {}},
+      {"Productividad_Simple",
+       "Productividad Parcial",
+       "Productividad",
+       {{"Productividad_Simple_Solucion", "Solución "}},
+       {}},
+      {"Productividad_Global",
+       "Productividad Global",
+       "Productividad",
+       {{"Productividad_Global_Solucion"}},
+       {}},
+      {"C_Experiencia",
+       "Curvas de Experiencia",
+       "",
+       {{"C_Experiencia_Sol", "Solución "}},
+       {},
+       false,
+       {"C_Experiencia_Sol_Imprimir"}},
+      {"Distribucion_CargaDistancia",
+       "Análisis Carga-Distancia",
+       "DistribucionFisica",
+       {{"Distribucion_Cargadistancia_Solucion"}},
+       {}},
+      {"Distribucion_Equlibrado",
+       "Equilibrado de Líneas de Fabricación o Montaje",
+       "DistribucionFisica",
+       {{"Distribucion_Equilibrado_Solucion"}},
+       {}},
   };
   return m;
 }
@@ -152,14 +226,16 @@ std::vector<MenuInfo> buildMenus() {
     std::initializer_list<std::array<const char*, 3>> choices;
   };
   const Section sections[] = {
-      {"ProgramaciónLineal", "Programación Lineal",
+      {"ProgramaciónLineal",
+       "Programación Lineal",
        "La Programación Lineal estudia problemas de asignación de recursos limitados entre "
        "actividades competitivas de forma óptima, para ello emplea un modelo matemático que "
        "describirá la esencia del problema a tratar",
        {{"Image3", "Simplex", "PL_Simplex"},
         {"Image7", "Problemas de Asignación", "PL_Asignación"},
         {"Image8", "Problema del Transporte", "PL_Transportes"}}},
-      {"DecisionTeoria", "Teoría de la Decisión",
+      {"DecisionTeoria",
+       "Teoría de la Decisión",
        "La teoría de la decisión hace referencia al proceso de elección de la mejor alternativa "
        "dentro de un conjunto de opciones",
        {{"Image3", "Toma de decisiones en ambiente de riesgo", "DecisionRiesgoNobayesiano"},
@@ -167,21 +243,24 @@ std::vector<MenuInfo> buildMenus() {
         {"Image8", "Métodos multicriterio", "DecisionMulticriterio"}}},
       // The window caption of this menu is an unrelated sentence (see
       // screens()); the title shown on it is the menu's own name.
-      {"DecisionMulticriterio", "Métodos multicriterio",
+      {"DecisionMulticriterio",
+       "Métodos multicriterio",
        "El análisis multicriterio permite atendiendo a distintos criterios clasificar distintos "
        "proyectos o alternativas existentes o bien discriminar entre ellas eligiendo la más "
        "adecuada",
        {{"Image3", "Electra 1", "DecisionElectra1"},
         {"Image7", "Electra 2", "DecisionElectra2"},
         {"Image8", "Volver", "DecisionTeoria"}}},
-      {"GestiónDeInventarios", "Gestión de Inventarios",
+      {"GestiónDeInventarios",
+       "Gestión de Inventarios",
        "Se puede definir el inventario como un conjunto de artículos acumulados o almacenados en "
        "espera de una posterior utilización, en definitiva, de una posterior demanda. Su "
        "principal función es adecuar un flujo de producción y un flujo de demanda de diferente "
        "frecuencia temporal",
        {{"Image3", "Inventarios con demanda independiente", "GI_DemandaIndependiente"},
         {"Image7", "Inventarios con demanda dependiente: MRP", "GI_MRP"}}},
-      {"GI_DemandaIndependiente", "Inventarios con Demanda Independiente",
+      {"GI_DemandaIndependiente",
+       "Inventarios con Demanda Independiente",
        "En la gestión de inventarios con demanda independiente, la demanda de un artículo no "
        "depende de la demanda del resto de artículos",
        {{"Image3", "Cantidad Económica de Pedido", "GI_CantidadEconómicaPedido"},
@@ -189,7 +268,8 @@ std::vector<MenuInfo> buildMenus() {
         {"Image8", "Cantidad Económica de Pedido con Ruptura", "GI_CEPRuptura"},
         {"Image7", "Cantidad Económica de Pedido con Descuentos", "GI_CEPDescuento"},
         {"Image11", "Volver", "GestiónDeInventarios"}}},
-      {"Juegos", "Teoría de Juegos",
+      {"Juegos",
+       "Teoría de Juegos",
        "Un juego es cualquier situación gobernada por unas reglas con un resultado definido y "
        "caracterizado por una independencia estratégica. Mediante Teoría de Juegos se indicarán "
        "las posibles estrategias que podrá seguir cada jugador en función de la "
@@ -199,20 +279,23 @@ std::vector<MenuInfo> buildMenus() {
         {"Image4", "Juegos con n estrategias", "Juegos_n"},
         // The decorative strip: a click hides the menu and shows nothing.
         {"Image7", "", ""}}},
-      {"Localizacion_P", "Localización",
+      {"Localizacion_P",
+       "Localización",
        "La decisión de localización de la empresa es la determinación de aquel lugar que, "
        "considerando todos los factores, ocasionará el coste mínimo del producto a fabricar, con "
        "objeto de obtener los máximos beneficios empresariales, proporcionando a su vez la "
        "máxima satisfacción posible a los clientes",
        {{"Image8", "Centro de Gravedad", "Localizacion_CG"},
         {"Image4", "Ponderación de Factores", "Localizacion_PF"}}},
-      {"SelecEquipos", "Selección de Equipos y Tecnología",
+      {"SelecEquipos",
+       "Selección de Equipos y Tecnología",
        "Este tipo de problemas permite decidir qué máquina o tecnología adquirir, hace posible  "
        "la selección entre las distintas ofertas que se nos presentan.",
        {{"Image7", "Criterio de Ponderación de Factores", "Selec_Pond"},
         {"Image6", "Criterio del VAN", "Selec_Van"},
         {"Image8", "Costes Totales", "Select_C_Totales"}}},
-      {"ControlCal", "Control Estadístico de la Calidad",
+      {"ControlCal",
+       "Control Estadístico de la Calidad",
        "El Control Estadístico de la Calidad se puede realizar observando en cada elemento: una "
        "característica medible, o bien un atributo o una característica cualitativa o de otro "
        "modo examinando el número total de defectos que presenta el producto. Estos tres tipos "
@@ -220,13 +303,15 @@ std::vector<MenuInfo> buildMenus() {
        {{"Image1", "Control por Variables", "ControlCal_V"},
         {"Image2", "Control por Atributos", "ControlCal_AtribP"},
         {"Image5", "Control por Número de Defectos", "ControlCal_NDef"}}},
-      {"Productividad", "Productividad",
+      {"Productividad",
+       "Productividad",
        "Productividad es la forma de medir la eficiencia de la función de producción de una "
        "organización. Se define como la relación entre la producción de un período y la cantidad "
        "de recursos consumidos para alcanzarla.",
        {{"Image6", "Productividad Parcial", "Productividad_Simple"},
         {"Image7", "Productividad Global", "Productividad_Global"}}},
-      {"DistribucionFisica", "Distribución Física de las Instalaciones ",
+      {"DistribucionFisica",
+       "Distribución Física de las Instalaciones ",
        "Se define la distribución en planta como la ubicación de las distintas máquinas, puestos "
        "de trabajo, áreas de servicio al cliente, almacenes, oficinas, flujo de materiales, etc. "
        "dentro de los edificios de la empresa de forma que se consiga el mejor funcionamiento de "
@@ -272,12 +357,20 @@ std::vector<ScreenInfo> buildScreens() {
       {"APrincipal", Kind::MainMenu, "Vorel", "", "", Cerrar::Unload, true, false, true, {}});
   for (const MenuInfo& m : menus()) {
     if (m.name == "APrincipal") continue;
-    out.push_back({m.name, Kind::SectionMenu, menuCaption(m), "", menuVolver(m), cerrarOf(m.name),
-                   true, true, true, {}});
+    out.push_back({m.name,
+                   Kind::SectionMenu,
+                   menuCaption(m),
+                   "",
+                   menuVolver(m),
+                   cerrarOf(m.name),
+                   true,
+                   true,
+                   true,
+                   {}});
   }
   for (const Model& model : models()) {
-    ScreenInfo entry{model.entry, Kind::Entry,       model.caption, "", model.volver,
-                     cerrarOf(model.entry), true, true, true, {}};
+    ScreenInfo entry{model.entry,           Kind::Entry, model.caption, "",   model.volver,
+                     cerrarOf(model.entry), true,        true,          true, {}};
     if (model.resolver.empty()) {
       for (const Sol& s : model.solutions) entry.solutions.emplace_back(s.name);
     } else {
@@ -287,8 +380,16 @@ std::vector<ScreenInfo> buildScreens() {
     out.push_back(std::move(entry));
     for (const Sol& s : model.solutions) {
       const std::string volver = std::string_view(s.volver) == kToEntry ? model.entry : s.volver;
-      out.push_back({s.name, Kind::Solution, s.caption, model.entry, volver, cerrarOf(s.name),
-                     true, true, false, {}});
+      out.push_back({s.name,
+                     Kind::Solution,
+                     s.caption,
+                     model.entry,
+                     volver,
+                     cerrarOf(s.name),
+                     true,
+                     true,
+                     false,
+                     {}});
     }
     // Chart print screens only carry a picture to the printer: never shown,
     // no commands of their own.
@@ -322,6 +423,28 @@ const ScreenInfo* findScreen(std::string_view name) {
   auto it =
       std::find_if(all.begin(), all.end(), [&](const ScreenInfo& s) { return s.name == name; });
   return it == all.end() ? nullptr : &*it;
+}
+
+std::string helpPage(std::string_view screen) {
+  const ScreenInfo* info = findScreen(screen);
+  if (!info || info->kind == Kind::Start || info->kind == Kind::MainMenu) return "VorelAyuda.html";
+  const std::string& name = info->entry.empty() ? info->name : info->entry;
+  // The accented letters of the screen names, in UTF-8, and their plain forms.
+  static const std::pair<std::string_view, char> kPlain[] = {{"á", 'a'}, {"é", 'e'}, {"í", 'i'},
+                                                             {"ó", 'o'}, {"ú", 'u'}, {"ñ", 'n'}};
+  std::string page;
+  for (std::size_t i = 0; i < name.size();) {
+    bool folded = false;
+    for (const auto& [accented, plain] : kPlain)
+      if (name.compare(i, accented.size(), accented) == 0) {
+        page += plain;
+        i += accented.size();
+        folded = true;
+        break;
+      }
+    if (!folded) page += name[i++];
+  }
+  return page + ".html";
 }
 
 }  // namespace vorel::nav

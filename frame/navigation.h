@@ -18,15 +18,15 @@ enum class Cerrar {
 };
 
 struct ScreenInfo {
-  std::string name;     // "GI_CantidadEconómicaPedido"
+  std::string name;  // "GI_CantidadEconómicaPedido"
   Kind kind;
   std::string caption;  // the window caption
   std::string entry;    // for solution and chart print screens: their model's entry screen
   std::string volver;   // the screen volver shows; empty where there is no volver
   Cerrar cerrar;
-  bool minimizar;       // has minimizar (or Minimiz)
-  bool gohome;          // has gohome
-  bool ayuda;           // has ayuda
+  bool minimizar;  // has minimizar (or Minimiz)
+  bool gohome;     // has gohome
+  bool ayuda;      // has ayuda
   // Entry screens: the solution screens Resolver may show, and whether Resolver
   // leaves the entry screen visible behind them ("stays").
   std::vector<std::string> solutions;
@@ -51,7 +51,12 @@ struct MenuInfo {
 
 const std::vector<ScreenInfo>& screens();  // all 86, start screen first
 const ScreenInfo* findScreen(std::string_view name);
-const std::vector<MenuInfo>& menus();      // APrincipal and the eleven section menus
+const std::vector<MenuInfo>& menus();  // APrincipal and the eleven section menus
 const MenuInfo* findMenu(std::string_view name);
+
+// The help page of a screen, a file of the help folder: the main menu's is
+// "VorelAyuda.html"; a model's screens share their entry screen's page; every
+// other page is named after its screen without accents ("GestionDeInventarios.html").
+std::string helpPage(std::string_view screen);
 
 }  // namespace vorel::nav

@@ -9,17 +9,14 @@ if [ -n "${DISPLAY:-}" ]; then
   exec "$program"
 fi
 
-display=:77
-echo "No display found: starting the program on a virtual display (Xvfb $display)."
-Xvfb "$display" -screen 0 1280x800x24 -nolisten tcp > /dev/null 2>&1 &
-xvfb=$!
-trap 'kill $xvfb 2>/dev/null || true' EXIT
-sleep 1
-DISPLAY=$display "$program" &
+source "$(dirname "$0")/xvfb.sh"
+start_xvfb 1280x800
+echo "No display found: starting the program on a virtual display (Xvfb $DISPLAY)."
+"$program" &
 app=$!
 mkdir -p screenshots
 sleep 4
-DISPLAY=$display import -window root screenshots/run.png
+import -window root screenshots/run.png
 echo "Screenshot of the main menu saved to screenshots/run.png."
 if [ -t 0 ]; then
   echo "The program is running on the virtual display; press Enter to end it."

@@ -11,6 +11,7 @@
 #include "frame/gui/model_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/navigation.h"
+#include "frame/gui/help_window.h"
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
@@ -185,12 +186,17 @@ TEST_F(FrameTest, ChromeCarriesItsToolTips) {
   EXPECT_TRUE(screen("GI_CantidadEconómicaPedido")->windowState() & Qt::WindowMinimized);
 }
 
-TEST_F(FrameTest, HelpOpensTheFileBesideTheProgram) {
+TEST_F(FrameTest, AyudaOpensThePageOfItsScreen) {
   screens().show("APrincipal");
   press("APrincipal", "Image7");
-  ASSERT_EQ(platform.helpStarted.size(), 1u);
-  EXPECT_TRUE(platform.helpStarted[0].endsWith("/VorelAyuda.hlp"));
-  EXPECT_TRUE(platform.helpStarted[0].startsWith(QCoreApplication::applicationDirPath()));
+  screens().show("GestiónDeInventarios");
+  press("GestiónDeInventarios", "ayuda");
+  screens().show("GI_CantidadEconómicaPedido");
+  press("GI_CantidadEconómicaPedido", "ayuda");
+  ASSERT_EQ(platform.helpStarted.size(), 3u);
+  EXPECT_EQ(platform.helpStarted[0], gui::helpFolder() + "/VorelAyuda.html");
+  EXPECT_EQ(platform.helpStarted[1], gui::helpFolder() + "/GestionDeInventarios.html");
+  EXPECT_EQ(platform.helpStarted[2], gui::helpFolder() + "/GI_CantidadEconomicaPedido.html");
 }
 
 TEST_F(FrameTest, EveryBadCellIsToldWithFocusMovingToIt) {
