@@ -7,6 +7,8 @@
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
+#include "layout/carga_distancia_screens.h"
+#include "layout/equilibrado_screens.h"
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
@@ -28,6 +30,8 @@ void registerAllScreens() {
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
+  facility::registerCargaDistanciaScreens();
+  facility::registerEquilibradoScreens();
 }
 
 }  // namespace vorel::gui
