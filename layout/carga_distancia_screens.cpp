@@ -27,6 +27,7 @@ CargaDistanciaEntry::CargaDistanciaEntry()
                                           kMaxFilasDistancia);
   auto* reshape = gui::redesignButton(*this, [this] { rediseñarTabla(); });
   fieldGrid()->addWidget(reshape, 2, 0, 1, 2, Qt::AlignLeft);
+  fieldGrid()->setColumnStretch(2, 1);
 
   // The products: one row each, its route of five departments and its production.
   auto* productos = gui::tableFrame(*this);

@@ -19,6 +19,7 @@ EquilibradoEntry::EquilibradoEntry()
                                            kMaxActividades);
   auto* reshape = gui::redesignButton(*this, [this] { rediseñarTabla(); });
   fieldGrid()->addWidget(reshape, 0, 2, Qt::AlignLeft);
+  fieldGrid()->setColumnStretch(3, 1);
 
   // Two blocks of seven activities, one above the other: the head of each
   // activity, its time, and its five predecessors down its column.
@@ -40,6 +41,7 @@ EquilibradoEntry::EquilibradoEntry()
     anteriores->setText("Actividades Inmediatamente\nAnteriores");
     anteriores->setAlignment(Qt::AlignRight | Qt::AlignTop);
     grid->addWidget(anteriores, arriba + 2, 0, kAnterioresPorActividad, 1);
+    if (bloque == 1) rotulosBloque2_ = {tiempos, anteriores};
     for (int k = 1; k <= kColumnasAnteriores; ++k) {
       const int a = k + bloque * kColumnasAnteriores;
       LblActividades_(a - 1)->setText("Actividad " + QString::number(a));
@@ -80,6 +82,8 @@ void EquilibradoEntry::setFields(const EquilibradoFields& f) {
     gui::writeCell(TiempoOperacion_(i), item(f.TiempoOperacion, i));
     LblActividades_(i)->setVisible(item(f.LblActividades, i));
   }
+  // The captions of the lower block go with its first activity.
+  for (QLabel* rotulo : rotulosBloque2_) rotulo->setVisible(item(f.LblActividades, 7));
   gui::fitToTable(*this);
 }
 

@@ -34,6 +34,7 @@ class EquilibradoEntry : public gui::ModelEntry<EquilibradoFields> {
   std::array<gui::ControlArray<QLineEdit>, kColumnasAnteriores> C_;  // C_[k - 1] is Ck
   gui::ControlArray<QLineEdit> TiempoOperacion_;
   gui::ControlArray<QLabel> LblActividades_;
+  std::array<QLabel*, 2> rotulosBloque2_{};  // "Tiempos de Operación" and the predecessors'
 };
 
 class EquilibradoSolution : public gui::SolutionScreen {
