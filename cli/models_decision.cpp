@@ -1,6 +1,7 @@
 #include "cli/models.h"
 #include "decision/electra1.h"
 #include "decision/incertidumbre.h"
+#include "decision/riesgo.h"
 
 namespace vorel::cli {
 
@@ -12,6 +13,9 @@ std::vector<CliModel> decisionModels() {
       entry<IncertidumbreFields>("incertidumbre", "DecisionIncertidumbre", "", exchange, check,
                                  solveAndReport),
       entry<Electra1Fields>("electra1", "DecisionElectra1", "", exchange, check, solveAndReport),
+      // The screen report of riesgo is its first page, simple dominance.
+      entry<RiesgoFields>("riesgo", "DecisionRiesgoNobayesiano", "", exchange, check,
+                          solveAndReport),
   };
 }
 

@@ -3,6 +3,7 @@
 
 #include "decision/electra1_screens.h"
 #include "decision/incertidumbre_screens.h"
+#include "decision/riesgo_screens.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
@@ -26,6 +27,7 @@ void registerAllScreens() {
   linear_programming::registerAsignacionScreens();
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
+  decision::registerRiesgoScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
 }
