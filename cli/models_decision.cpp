@@ -1,5 +1,6 @@
 #include "cli/models.h"
 #include "decision/electra1.h"
+#include "decision/electra2.h"
 #include "decision/incertidumbre.h"
 #include "decision/riesgo.h"
 
@@ -16,6 +17,7 @@ std::vector<CliModel> decisionModels() {
       // The screen report of riesgo is its first page, simple dominance.
       entry<RiesgoFields>("riesgo", "DecisionRiesgoNobayesiano", "", exchange, check,
                           solveAndReport),
+      entry<Electra2Fields>("electra2", "DecisionElectra2", "", exchange, check, solveAndReport),
   };
 }
 

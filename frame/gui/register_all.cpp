@@ -2,6 +2,7 @@
 #include <QtGlobal>
 
 #include "decision/electra1_screens.h"
+#include "decision/electra2_screens.h"
 #include "decision/incertidumbre_screens.h"
 #include "decision/riesgo_screens.h"
 #include "frame/gui/menus.h"
@@ -28,6 +29,7 @@ void registerAllScreens() {
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
   decision::registerRiesgoScreens();
+  decision::registerElectra2Screens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
 }
