@@ -20,7 +20,7 @@ Electra2Entry::Electra2Entry()
 }
 
 Electra2Solution::Electra2Solution()
-    : SolutionScreen("DecisionElectra2_solucion", "Electra 2", 112, 36) {}
+    : SolutionScreen("DecisionElectra2_solucion", "Electra 2", 124, 36) {}
 
 Pages Electra2Solution::compute() {
   const Electra2Fields f = entry<Electra2Entry>().fields();
