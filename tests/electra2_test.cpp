@@ -140,19 +140,5 @@ TEST(Electra2, StrongAndWeakOutrankingAtTheLimits) {
   EXPECT_EQ(circuito.Circuito, (std::array<int, 6>{0, 0, 0, 3, 0, 0}));
 }
 
-TEST(Electra2, FileItemsInOrder) {
-  Electra2Fields f = problema("5 2 | 3 1", "5", "0.7 0.6 0.5 0.1 0.2");
-  ProblemFile out = ProblemFile::forWriting();
-  exchange(out, f);
-  EXPECT_TRUE(out.bytes().starts_with(
-      "\"Problema 1\"\r\n1\r\n0\r\n\"5\"\r\n\"0.7\"\r\n\"0.6\"\r\n\"0.5\"\r\n\"0.1\"\r\n\"0.2\"\r\n"
-      "#TRUE#\r\n\"5\"\r\n#TRUE#\r\n\"2\"\r\n#TRUE#\r\n\"\"\r\n#FALSE#"));
-  Electra2Fields back;
-  ProblemFile in = ProblemFile::forReading(out.bytes());
-  exchange(in, back);
-  EXPECT_EQ(back.IndicadorDiscordancia2, "0.2");
-  EXPECT_EQ(back.LblAlternativas[1].caption, "Ponderación");
-}
-
 }  // namespace
 }  // namespace vorel::decision
