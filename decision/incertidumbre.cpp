@@ -13,9 +13,7 @@ void aplicarForma(IncertidumbreFields& f, int na, int ne) {
     f.LblEstados[k] = static_cast<int>(k) < ne;
     f.LblAlternativas[k] = static_cast<int>(k) < na;
   }
-  for (std::size_t j = 0; j < 7; ++j)
-    for (std::size_t i = 0; i < 7; ++i)
-      f.C[j][i].visible = static_cast<int>(j) < ne && static_cast<int>(i) < na;
+  mostrarCeldas(f.C, na, ne);
 }
 
 using PorAlternativa = std::array<double, kMaxAlternativas>;
@@ -47,10 +45,6 @@ void iguales(const PorAlternativa& valor, int na, Marcas& sel) {
   for (int a = 0; a < na; ++a) item(sel, a) = item(valor, a) == maximo ? 1 : 0;
 }
 
-std::string regla(int subrayados) {
-  return std::string(static_cast<std::size_t>(subrayados), '_') + " ";
-}
-
 void titulo(Report& out, const IncertidumbreFields& f, const std::string& linea) {
   out.line(Z, "Solución al problema: " + f.Título);
   out.line(Z, linea);
@@ -63,8 +57,6 @@ void cuentas(Report& out, const IncertidumbreResults& r, const std::string& line
   out.line(Z, linea);
   out.line(Z, " ");
 }
-
-std::string numero(int a) { return printed(double(a + 1)); }
 
 void valores(Report& out, const IncertidumbreResults& r, const PorAlternativa& valor) {
   for (int a = 0; a < r.na; ++a)
@@ -160,27 +152,26 @@ void nuevo(IncertidumbreFields& f) {
 }
 
 Messages check(const IncertidumbreFields& f) {
-  for (std::size_t i = 0; i < 7; ++i)
-    for (std::size_t j = 0; j < 7; ++j) {
-      const auto& cell = f.C[j][i];
-      if (!cell.visible) continue;
-      if (!IsNumeric(cell.text)) {
-        if (j == 0) return {{"Debe completar la tabla de resultados ", ""}};
-        return {{"Debe completar la tabla de resultados", ""}};
-      }
-      const double value = Val(cell.text);
-      if (value < -999999999 || value > 999999999) {
-        if (j == 0)
-          return {
-              {"El valor de los resulatdos no es correcto, debe introducir un valor "
-               "comprendido entre -999999999 y 999999999",
-               ""}};
+  Messages tabla = primerFallo(f.C, [](int j, int, const Cell& cell) -> Messages {
+    if (!IsNumeric(cell.text)) {
+      if (j == 1) return {{"Debe completar la tabla de resultados ", ""}};
+      return {{"Debe completar la tabla de resultados", ""}};
+    }
+    const double value = Val(cell.text);
+    if (value < -999999999 || value > 999999999) {
+      if (j == 1)
         return {
-            {"El valor de los resultados no es correcto, debe introducir un valor "
+            {"El valor de los resulatdos no es correcto, debe introducir un valor "
              "comprendido entre -999999999 y 999999999",
              ""}};
-      }
+      return {
+          {"El valor de los resultados no es correcto, debe introducir un valor "
+           "comprendido entre -999999999 y 999999999",
+           ""}};
     }
+    return {};
+  });
+  if (!tabla.empty()) return tabla;
   if (IsNumeric(f.Alfa)) {
     const double alfa = Val(f.Alfa);
     if (alfa < 0 || alfa > 1)
@@ -374,14 +365,7 @@ void exchange(ProblemFile& file, IncertidumbreFields& f) {
   file.listIndex(f.NumEstados, kMaxEstados);
   file.listIndex(f.NumAlternativas, kMaxAlternativas);
   file.text(f.Alfa);
-  for (std::size_t i = 0; i < 7; ++i) {
-    file.flag(f.LblEstados[i]);
-    for (auto& column : f.C) {
-      file.text(column[i].text);
-      file.flag(column[i].visible);
-    }
-    file.flag(f.LblAlternativas[i]);
-  }
+  exchangeFilas(file, f.LblEstados, f.C, f.LblAlternativas);
 }
 
 // The screen report is the Wald page, the one painted at activation; the

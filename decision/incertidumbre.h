@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "decision/tablas.h"
 #include "frame/model.h"
 
 namespace vorel::decision {
@@ -16,12 +17,11 @@ inline constexpr int kMaxEstados = 7;
 // The entry screen DecisionIncertidumbre. Rows are alternatives, columns are
 // states of nature: C[j - 1][i] is the cell Cj(i), state j for alternative i+1.
 struct IncertidumbreFields {
-
   std::string Título = "Problema 1";
   int NumAlternativas = 3;  // list index of the combo "1" to "7"; -1 when empty
   int NumEstados = 3;       // list index of the combo "1" to "7"; -1 when empty
   std::string Alfa;         // Hurwicz coefficient, optional
-  std::array<std::array<Cell, 7>, 7> C;
+  Tabla<7, 7> C;
   std::array<bool, 7> LblEstados{};       // visibility of the column heads
   std::array<bool, 7> LblAlternativas{};  // visibility of the row heads
 

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "decision/incertidumbre.h"
+#include "decision/pagos_screens.h"
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
 
@@ -17,19 +18,17 @@ namespace vorel::decision {
 
 class IncertidumbreEntry : public gui::ModelEntry<IncertidumbreFields> {
   Q_OBJECT
-public:
+ public:
   IncertidumbreEntry();
   IncertidumbreFields fields() const override;
   void setFields(const IncertidumbreFields& f) override;
 
-protected:
+ protected:
   void nuevo(IncertidumbreFields& f) override { decision::nuevo(f); }
-  void exchange(ProblemFile& file, IncertidumbreFields& f) override {
-    decision::exchange(file, f);
-  }
+  void exchange(ProblemFile& file, IncertidumbreFields& f) override { decision::exchange(file, f); }
   Messages check(const IncertidumbreFields& f) override { return decision::check(f); }
 
-private:
+ private:
   void rediseñarTabla();
 
   gui::TextBindings<IncertidumbreFields> bindings_;
@@ -40,29 +39,25 @@ private:
   gui::ControlArray<QLabel> LblAlternativas_;
 };
 
-class IncertidumbreSolution : public gui::SolutionScreen {
+class IncertidumbreSolution : public PaginasSolution {
   Q_OBJECT
-public:
+ public:
   IncertidumbreSolution();
   const Navegacion& navegacion() const { return navegacion_; }
 
-protected:
+ protected:
   // Every activation computes afresh and starts at the Wald page.
   Pages compute() override;
   // All the criteria on one page, from the results of the last activation.
   void imprimir() override;
 
-private:
   // A browsing button: the page it leads to, Alfa looked at on the entry
   // screen at the moment of the click.
-  void pulsarBoton(Boton boton);
+  void pulsar(int boton) override;
+
+ private:
   void mostrarBotones();
 
-  struct Browsing {
-    QAbstractButton* button;
-    QLabel* caption;
-  };
-  std::array<Browsing, 7> botones_{};  // in the order of Boton
   Navegacion navegacion_;
   IncertidumbreResults results_;
 };
