@@ -5,6 +5,7 @@
 #include "decision/incertidumbre_screens.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
+#include "games/juegos_jugadores_screens.h"
 #include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
 #include "linear_programming/asignacion_screens.h"
@@ -27,6 +28,7 @@ void registerAllScreens() {
   decision::registerElectra1Screens();
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
+  games::registerJuegosJugadoresScreens();
   queueing::registerColasScreens();
 }
 
