@@ -12,7 +12,8 @@ namespace vorel::cli {
 struct CliModel {
   std::string id;       // short, lower-case, ASCII: "cep"
   std::string screen;   // the entry screen's name: "GI_CantidadEconómicaPedido"
-  std::string presses;  // commands pressed before Resolver, for --help; empty if none
+  std::string presses;  // commands pressed before Resolver, by control name parted by ", "
+                        // ("EstPuras, EstMixtas"): --help lists them, the screen tests press them
   std::function<RunOutcome(const std::string& path)> run;
   std::function<std::string(const std::string& path)> resave;  // see vorel::resave
 };
