@@ -16,7 +16,9 @@ namespace vorel {
 struct CatalogueEntry {
   std::string id;       // short, lower-case, ASCII: "cep"; its examples are examples/<id>/
   std::string screen;   // the entry screen: "GI_CantidadEconómicaPedido"
-  std::string presses;  // commands pressed before Resolver in a file run; empty if none
+  // Commands pressed before Resolver in a file run, by control name parted by
+  // ", " ("EstPuras, EstMixtas"): --help lists them, the screen tests press them.
+  std::string presses;
   std::function<RunOutcome(const std::string& path)> run;      // see runFromFile
   std::function<std::string(const std::string& path)> resave;  // see vorel::resave
   std::string helpPage() const { return nav::helpPage(screen); }

@@ -53,8 +53,9 @@ JuegosNEntry::JuegosNEntry()
   fieldGrid()->setColumnMinimumWidth(2, 24);
   fieldGrid()->setColumnStretch(4, 1);
 
-  // The table: player 1's strategies A down the rows, player 2's B across;
-  // the column k holds the array Ak, one element per row.
+  // The table: player 1's strategies A down the rows, player 2's B across.
+  // The row of head A(k-1) holds the array Ak, its element i under the head
+  // B(i), so that Tabla(a, b) stands in row "A a+1", column "B b+1".
   auto* frame = gui::tableFrame(*this);
   auto* grid = gui::tableGrid(frame);
   const char* grupo = "font-size: 10pt; font-weight: 600; color: #4A5568;";
@@ -63,7 +64,7 @@ JuegosNEntry::JuegosNEntry()
   cabeceraA_.create(frame, "A", 0, kMaxEstrategias - 1, cabecera);
   cabeceraB_.create(frame, "B", 0, kMaxEstrategias - 1, cabecera);
   for (int k = 1; k <= kMaxEstrategias; ++k)
-    columna(k).create(frame, "A" + QString::number(k), 0, kMaxEstrategias - 1, [](QWidget* p) {
+    fila(k).create(frame, "A" + QString::number(k), 0, kMaxEstrategias - 1, [](QWidget* p) {
       auto* cell = gui::newCell(p);
       cell->setFixedWidth(64);
       return cell;
@@ -73,7 +74,7 @@ JuegosNEntry::JuegosNEntry()
     cabeceraB_(i)->setText("B" + QString::number(i + 1));
     grid->addWidget(cabeceraB_(i), 1, i + 1);
     grid->addWidget(cabeceraA_(i), i + 2, 0);
-    for (int k = 1; k <= kMaxEstrategias; ++k) grid->addWidget(columna(k)(i), i + 2, k);
+    for (int k = 1; k <= kMaxEstrategias; ++k) grid->addWidget(fila(k)(i), k + 1, i + 1);
   }
   grid->setColumnStretch(kMaxEstrategias + 1, 1);
   gui::placeTable(body(), fieldGrid(), frame);
@@ -91,7 +92,7 @@ JuegosNFields JuegosNEntry::fields() const {
     f.A[at] = !cabeceraA_(i)->isHidden();
     f.B[at] = !cabeceraB_(i)->isHidden();
     for (int k = 1; k <= kMaxEstrategias; ++k) {
-      const QLineEdit* cell = columna(k)(i);
+      const QLineEdit* cell = fila(k)(i);
       f.array(k)[at] = gui::readCell(cell);
     }
   }
@@ -107,7 +108,7 @@ void JuegosNEntry::setFields(const JuegosNFields& f) {
     cabeceraA_(i)->setVisible(f.A[at]);
     cabeceraB_(i)->setVisible(f.B[at]);
     for (int k = 1; k <= kMaxEstrategias; ++k) {
-      QLineEdit* cell = columna(k)(i);
+      QLineEdit* cell = fila(k)(i);
       gui::writeCell(cell, f.array(k)[at]);
     }
   }
@@ -120,7 +121,7 @@ void JuegosNEntry::rediseñarTabla() {
     games::rediseñar(f);
     return Messages{};
   });
-  columna(1)(0)->setFocus();
+  fila(1)(0)->setFocus();
 }
 
 void JuegosNEntry::resolver() {

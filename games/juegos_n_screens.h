@@ -1,6 +1,6 @@
 // The screens of games with n strategies: Juegos_n, where the table of
 // results is typed (player 1's strategies down the rows, player 2's across,
-// the column k being the array Ak), and its report Juegos_n_solucion.
+// the row k being the array Ak), and its report Juegos_n_solucion.
 #pragma once
 
 #include <QComboBox>
@@ -31,8 +31,8 @@ protected:
 
 private:
   void rediseñarTabla();
-  gui::ControlArray<QLineEdit>& columna(int k) { return A_[static_cast<std::size_t>(k - 1)]; }
-  const gui::ControlArray<QLineEdit>& columna(int k) const {
+  gui::ControlArray<QLineEdit>& fila(int k) { return A_[static_cast<std::size_t>(k - 1)]; }
+  const gui::ControlArray<QLineEdit>& fila(int k) const {
     return A_[static_cast<std::size_t>(k - 1)];
   }
 

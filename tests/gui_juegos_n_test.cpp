@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLayout>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <cmath>
 
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
@@ -32,7 +35,39 @@ class JuegosNScreens : public ScreenTest {
     press(kEntry, "Rediseñar");
   }
   bool has(const std::string& text) { return painted(kSolution).find(text) != std::string::npos; }
+  // The visible cell that stands in the row headed "A<fila>" and the column
+  // headed "B<columna>", found by where the student sees it.
+  QLineEdit* cellAt(int fila, int columna) {
+    screen(kEntry)->layout()->activate();
+    auto centre = [this](QWidget* w) { return w->mapTo(screen(kEntry), w->rect().center()); };
+    auto* rowHead = control<QLineEdit>(kEntry, QString("A(%1)").arg(fila - 1));
+    auto* columnHead = control<QLineEdit>(kEntry, QString("B(%1)").arg(columna - 1));
+    EXPECT_EQ(rowHead->text(), QString("A%1").arg(fila));
+    EXPECT_EQ(columnHead->text(), QString("B%1").arg(columna));
+    for (auto* cell :
+         screen(kEntry)->findChildren<QLineEdit*>(QRegularExpression("^A\\d\\(\\d\\)$")))
+      if (!cell->isHidden() && std::abs(centre(cell).y() - centre(rowHead).y()) < 3 &&
+          std::abs(centre(cell).x() - centre(columnHead).x()) < 3)
+        return cell;
+    ADD_FAILURE() << "no cell at A" << fila << ", B" << columna;
+    return nullptr;
+  }
 };
+
+// A game typed by the heads of the screen, rows A1 = 2 5 1, A2 = 3 6 4,
+// A3 = 7 8 9: row minima 1, 3, 7 and column maxima 7, 8, 9 meet at 7, in row
+// A3 and column B1, and no line is dominated as the elimination counts. The
+// report names that cell, and the screen shows 7 there.
+TEST_F(JuegosNScreens, TheReportNamesTheCellWhereTheScreenShowsIt) {
+  shape(3, 3);
+  const char* filas[3][3] = {{"2", "5", "1"}, {"3", "6", "4"}, {"7", "8", "9"}};
+  for (int a = 0; a < 3; ++a)
+    for (int b = 0; b < 3; ++b) cellAt(a + 1, b + 1)->setText(filas[a][b]);
+  press(kEntry, "Resolver");
+  EXPECT_TRUE(has("J1 juega A 3 y J2 juega B 1 \n"));
+  EXPECT_TRUE(has("obteniendo un resultado: (  7 , -7 )\n"));
+  EXPECT_EQ(cellAt(3, 1)->text(), "7");
+}
 
 TEST_F(JuegosNScreens, TheEntryStartsWithTwoStrategiesASide) {
   EXPECT_EQ(screen(kEntry)->windowTitle(), "Juegos con n Estrategias");
@@ -52,8 +87,8 @@ TEST_F(JuegosNScreens, TheEntryStartsWithTwoStrategiesASide) {
   expectShown({"A(2)", "B(2)", "A3(0)", "A1(2)", "A8(7)"}, false);
 }
 
-// The array Ak is what the solving takes for player 1's strategy k: typing
-// A1 = (1, 2) and A2 = (3, 4) gives the one saddle point at A2, B1.
+// The array Ak is player 1's strategy k, the row headed "Ak": typing
+// A1 = (1, 2) and A2 = (3, 4) gives the one saddle point at A2, B1, where 3 stands.
 TEST_F(JuegosNScreens, ATypedGameGoesToTheReport) {
   type(kEntry, "Título", "Dos por dos");
   const char* cells[][2] = {{"A1(0)", "1"}, {"A1(1)", "2"}, {"A2(0)", "3"}, {"A2(1)", "4"}};
@@ -136,10 +171,11 @@ TEST_F(JuegosNScreens, RediseñarShowsTheChosenShapeAndKeepsTheTexts) {
   EXPECT_EQ(control<QComboBox>(kEntry, "NDecA")->currentText(), "8");
 }
 
-// Player 1 with more strategies: the rows beyond player 2's count are not
-// read, so what they hold does not matter. Player 2 with more: the read runs
-// past the working table, the platform's error 9, and no report is shown.
-TEST_F(JuegosNScreens, OnlyTheRowsOfPlayerTwosCountAreRead) {
+// Player 1 with more strategies: each row of cells is read only up to player
+// 2's count, so the cells of the columns beyond it do not matter. Player 2
+// with more: the read runs past player 1's rows, the platform's error 9, and
+// no report is shown.
+TEST_F(JuegosNScreens, OnlyTheColumnsOfPlayerTwosCountAreRead) {
   shape(3, 2);
   for (const char* cell : {"A1(0)", "A1(1)", "A2(0)", "A2(1)"}) type(kEntry, cell, "5");
   type(kEntry, "A1(2)", "nada");

@@ -92,12 +92,13 @@ TEST(JuegosN, MorePlayerTwoStrategiesEndInASubscriptError) {
   EXPECT_EQ(check(f), (Messages{{"Debe completar la tabla de resultados", "A2(0)"}}));
 }
 
-TEST(JuegosN, HiddenCellsAndRowsBeyondPlayerTwosCountAreNotRead) {
+TEST(JuegosN, HiddenCellsAndElementsBeyondPlayerTwosCountAreNotRead) {
   JuegosNFields f = cuadrado({{"1", "2"}, {"3", "4"}});
   f.A1[2].text = f.A3[0].text = "x";
   EXPECT_TRUE(check(f).empty());
   EXPECT_EQ(leerTabla(f), (Tabla{{1, 2}, {3, 4}}));
-  f = juego(3, 2, {{"1", "2", "x"}, {"3", "4", "y"}});  // A1(2) and A2(2) visible, left as 0
+  // A1(2) and A2(2) are shown but not read; row A3 has no cells and stays 0.
+  f = juego(3, 2, {{"1", "2", "x"}, {"3", "4", "y"}});
   EXPECT_TRUE(check(f).empty());
   EXPECT_EQ(leerTabla(f), (Tabla{{1, 2}, {3, 4}, {0, 0}}));
 }
