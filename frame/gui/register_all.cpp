@@ -7,6 +7,7 @@
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
 #include "inventory/eoq_screens.h"
+#include "inventory/mrp_screens.h"
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
@@ -21,6 +22,7 @@ void registerAllScreens() {
   initPictures();
   registerMenuScreens();
   inventory::registerScreens();
+  inventory::registerMrpScreens();
   linear_programming::registerSimplexScreens();
   linear_programming::registerTransportesScreens();
   linear_programming::registerAsignacionScreens();
