@@ -239,7 +239,7 @@ void MrpEntry::mostrar() {
 // scroll bar moves them in.
 namespace {
 constexpr int kTwipsPerPixel = 15;
-constexpr int kTop = 44, kBlock = 130, kRow = 20, kWeekX = 150, kWeekStep = 62;
+constexpr int kTop = 44, kBlock = 130, kRow = 20, kWeekX = 196, kWeekStep = 62;
 constexpr int kFormViewport = 560, kFormMaximum = 10;  // the form as designed, 2 to 4 articles
 const char* const kRowNames[5] = {"NecesidadesBrutas", "RProgramadas", "InventarioDisp",
                                   "NecesidadesN", "LanzamientoP"};
@@ -282,10 +282,10 @@ MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
                                                         {"SS", "S.S."},
                                                         {"Tiempo", "T.S."},
                                                         {"Label1", "Semanas"}};
-  const int headX[5] = {4, 44, 94, 120, kWeekX};
+  const int headX[5] = {4, 60, 110, 150, kWeekX};
   for (int h = 0; h < 5; ++h) {
     auto* label = caption(Picture1_, heads[h].second, heads[h].first);
-    place(label, headX[h], 2, h == 4 ? kWeekStep * kMrpWeeks : h == 0 ? 40 : 46);
+    place(label, headX[h], 2, h == 4 ? kWeekStep * kMrpWeeks : h == 0 ? 52 : h == 1 ? 46 : 36);
     heads_ << label;
   }
   heads_[3]->setToolTip("Tiempo de Suministro");
@@ -301,10 +301,10 @@ MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
       place(a(k), x, kTop + kBlock * k, width);
     }
   };
-  heads4(ArtS_, "ArtS", 4, 36);
-  heads4(Stock_, "Stock", 44, 46);
-  heads4(StockSeg_, "StockSeg", 94, 24);
-  heads4(TSS_, "TSS", 122, 24);
+  heads4(ArtS_, "ArtS", 4, 52);
+  heads4(Stock_, "Stock", 60, 46);
+  heads4(StockSeg_, "StockSeg", 110, 36);
+  heads4(TSS_, "TSS", 150, 36);
   for (int k = 0; k < kMrpArticles; ++k) TSS_(k)->setToolTip("Tiempo de Suministro");
   for (int r = 0; r < 5; ++r) {
     rowLabels_[at(r)].create(Picture1_, kRowNames[r], 0, kMrpArticles - 1,
@@ -409,6 +409,8 @@ void MrpSolution::imprimir() {
                          findChild<QWidget*>("minimizar"),
                          findChild<QWidget*>("cerrar"),
                          findChild<QWidget*>("gohome")};
+  for (QLabel* label : findChildren<QLabel*>())  // the command's caption goes with it
+    if (label->text() == "Imprimir") hidden << label;
   for (QFrame* image : images_) image->hide();
   for (QWidget* w : hidden)
     if (w) w->hide();
