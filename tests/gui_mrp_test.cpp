@@ -16,7 +16,7 @@ const std::string kEntry = "GI_MRP";
 const std::string kSolution = "GI_MRP_Solucion1";
 
 class MrpScreens : public ScreenTest {
-protected:
+ protected:
   void openExample(const char* file) { openFile(kEntry, examplePath("mrp", file)); }
   void choose(const QString& selector, const QString& text) {
     control<QComboBox>(kEntry, selector)->setEditText(text);
@@ -83,9 +83,6 @@ TEST_F(MrpScreens, TenWeeksAreReachedByTypingAndMostrarShowsOneFrame) {
   EXPECT_FALSE(shown(kEntry, "FrmArticulo(3)"));
   press(kEntry, "Mostrar");
   EXPECT_TRUE(shown(kEntry, "FrmArticulo(3)") && !shown(kEntry, "FrmArticulo(0)"));
-  choose("NArt", "12");
-  press(kEntry, "Rediseñar");
-  EXPECT_FALSE(shown(kEntry, "Art(0)") || shown(kEntry, "UniPA(0)"));
   // nuevo does nothing on this screen.
   type(kEntry, "ID(0)", "7");
   press(kEntry, "nuevo");

@@ -149,6 +149,15 @@ TEST(Mrp, LeadTimesAtTheEdgesOfTheHorizon) {
   EXPECT_EQ(errorOf([&] { solve(f); }), err::Subscript);
 }
 
+// A second parent among the rows not in use has no releases: nothing is added.
+TEST(Mrp, SecondParentOutsideTheTableAddsNothing) {
+  MrpFields f = problem({{"-", "1", "-", "1", "0", "0", "0", "0", "L"},
+                         {"X", "2", "H", "5", "0", "0", "0", "0", "L"}},
+                        {"3", "4"});
+  ASSERT_TRUE(check(f).empty());
+  EXPECT_EQ(cells(solve(f).NB, 1, 2), " 6| 8");
+}
+
 TEST(Mrp, ChecksGiveOneMessageInTheirOrder) {
   const MrpFields valid = problem({{"-", "1", "-", "1", "0", "0", "0", "0", "L"},
                                    {"X", "1", "B", "1", "0", "0", "0", "0", "10"},
