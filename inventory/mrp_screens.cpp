@@ -249,7 +249,8 @@ const char* const kCellPrefixes[5] = {"NB", "RP", "ID", "NN", "LP"};
 }  // namespace
 
 MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
-  Solucion1()->hide();  // the records are cells of their own
+  // The records are cells of their own; the hidden report box keeps their text.
+  Solucion1()->hide();
   Image1_ = new QLabel(this);
   Image1_->setObjectName("Image1");
   Image1_->setFixedHeight(4);
