@@ -10,6 +10,11 @@
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
+#include "location_equipment/centro_gravedad_screens.h"
+#include "location_equipment/factores_localizacion_screens.h"
+#include "location_equipment/selec_pond_screens.h"
+#include "productivity/productividad_global_screens.h"
+#include "productivity/productividad_simple_screens.h"
 #include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
@@ -28,6 +33,11 @@ void registerAllScreens() {
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
+  location_equipment::registerCentroGravedadScreens();
+  location_equipment::registerFactoresLocalizacionScreens();
+  location_equipment::registerSelecPondScreens();
+  productivity::registerProductividadSimpleScreens();
+  productivity::registerProductividadGlobalScreens();
 }
 
 }  // namespace vorel::gui
