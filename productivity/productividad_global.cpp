@@ -173,8 +173,8 @@ void seleccionar(ProductividadGlobalFields& f, Grupo g, int fila) {
 
 void enfocar(ProductividadGlobalFields& f, Grupo g, int fila) {
   const ListasGrupo l = listas(f, g);
-  f.grupo = g;
   if (fila < 0 || fila >= static_cast<int>(l.UF0->items.size())) return;
+  f.grupo = g;
   for (Lista* lista : {l.UF0, l.PU0, l.UF1}) lista->ListIndex = fila;
   numeroFila(f, g) = std::to_string(fila + 1);
 }

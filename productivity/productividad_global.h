@@ -53,8 +53,9 @@ void eliminar(ProductividadGlobalFields& f);
 // Click on a row of a list: the three lists of its group go to that row,
 // whose values fill their texts.
 void seleccionar(ProductividadGlobalFields& f, Grupo g, int fila);
-// GotFocus on a list of a group: the other two lists go to its row, and the
-// row's number shows; the texts being typed stay.
+// GotFocus on a list of a group with a row in hand: the other two lists go
+// to its row, the row's number shows and the group is in hand; the texts
+// being typed stay. A list with no row in hand changes nothing.
 void enfocar(ProductividadGlobalFields& f, Grupo g, int fila);
 void nuevo(ProductividadGlobalFields& f);
 

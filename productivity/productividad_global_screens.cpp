@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
+#include <tuple>
 
 #include "frame/gui/table_screen.h"
 
@@ -39,8 +40,13 @@ ProductividadGlobalEntry::ProductividadGlobalEntry()
                  "obtienen el índice y la tasa de productividad global",
                  "Titulo1", "Problema 1") {
   bindings_.bind(&F::Titulo1, titleField());
-  bindings_.bind(&F::TxtCasoO, addField("TxtCasoO", "Año 0", "Nombre del año 0"));
-  bindings_.bind(&F::TxtCaso1, addField("TxtCaso1", "Año 1", "Nombre del año 1"));
+  for (auto [member, name, caption, tip] :
+       {std::tuple{&F::TxtCasoO, "TxtCasoO", "Año 0", "Nombre del año 0"},
+        std::tuple{&F::TxtCaso1, "TxtCaso1", "Año 1", "Nombre del año 1"}}) {
+    QLineEdit* box = addField(name, caption, tip);
+    fieldGrid()->setAlignment(box, Qt::AlignLeft);
+    bindings_.bind(member, box);
+  }
 
   // One panel per group: three parallel lists whose texts are the row being
   // typed, the number of the row in hand and how many rows there are.
@@ -96,6 +102,7 @@ ProductividadGlobalEntry::ProductividadGlobalEntry()
 
   // The commands on the rows in hand.
   auto* botones = new QHBoxLayout;
+  botones->setSpacing(10);
   const struct {
     const char *name, *text, *tip;
     Messages (*accion)(F&);
