@@ -47,6 +47,7 @@ ProductividadGlobalEntry::ProductividadGlobalEntry()
     fieldGrid()->setAlignment(box, Qt::AlignLeft);
     bindings_.bind(member, box);
   }
+  fieldGrid()->setColumnStretch(2, 1);
 
   // One panel per group: three parallel lists whose texts are the row being
   // typed, the number of the row in hand and how many rows there are.
