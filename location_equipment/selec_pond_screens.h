@@ -1,0 +1,46 @@
+// Equipment selection by weighted factors: Selec_Pond, one row per factor
+// with its weight and the scores of A and B, and its solution
+// Selec_Pond_Solucion.
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "frame/gui/control_array.h"
+#include "frame/gui/model_screens.h"
+#include "location_equipment/selec_pond.h"
+
+namespace vorel::location_equipment {
+
+class SelecPondEntry : public gui::ModelEntry<SelecPondFields> {
+  Q_OBJECT
+ public:
+  SelecPondEntry();
+  SelecPondFields fields() const override;
+  void setFields(const SelecPondFields& f) override;
+
+ protected:
+  void nuevo(SelecPondFields& f) override { location_equipment::nuevo(f); }
+  void exchange(ProblemFile& file, SelecPondFields& f) override {
+    location_equipment::exchange(file, f);
+  }
+  Messages check(const SelecPondFields& f) override { return location_equipment::check(f); }
+
+ private:
+  gui::TextBindings<SelecPondFields> bindings_;
+  QComboBox* NFact_;
+  gui::ControlArray<QLineEdit> factor_, Ponderaciones_, PuntuaA_, PuntuaB_;
+};
+
+class SelecPondSolution : public gui::SolutionScreen {
+  Q_OBJECT
+ public:
+  SelecPondSolution();
+
+ protected:
+  Pages compute() override;
+};
+
+void registerSelecPondScreens();
+
+}  // namespace vorel::location_equipment
