@@ -6,6 +6,9 @@
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
+#include "inventory/cep_descuento_screens.h"
+#include "inventory/cep_gradual_screens.h"
+#include "inventory/cep_ruptura_screens.h"
 #include "inventory/eoq_screens.h"
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
@@ -21,6 +24,9 @@ void registerAllScreens() {
   initPictures();
   registerMenuScreens();
   inventory::registerScreens();
+  inventory::registerGradualScreens();
+  inventory::registerRupturaScreens();
+  inventory::registerDescuentoScreens();
   linear_programming::registerSimplexScreens();
   linear_programming::registerTransportesScreens();
   linear_programming::registerAsignacionScreens();
