@@ -43,17 +43,17 @@ DescuentoEntry::DescuentoEntry()
       "Introducir el límite inferior y superior para cada intervalo de coste y el coste de "
       "adquisición correspondiente (Nota: Si no existe límite superior introducir una cantidad lo "
       "suficientemente grande)",
-      frame);
+      this);
   nota->setObjectName("Label2");
   nota->setWordWrap(true);
-  nota->setStyleSheet("color: #2D3748;");
-  grid->addWidget(nota, 0, 0, 1, 4);
+  nota->setMaximumWidth(560);
+  nota->setStyleSheet("font-size: 10pt; color: #2D3748;");
   const char* cabeceras[] = {"Límite  Inferior", "Límite superior", "Coste"};
   for (int c = 0; c < 3; ++c) {
     QLabel* head = gui::newColumnHead(frame);
     head->setText(cabeceras[c]);
     head->setFixedWidth(110);
-    grid->addWidget(head, 1, c + 1);
+    grid->addWidget(head, 0, c + 1);
   }
   const char filas[] = {'A', 'B', 'C', 'D'};
   for (std::size_t r = 0; r < kMaxIntervalos; ++r) {
@@ -61,17 +61,18 @@ DescuentoEntry::DescuentoEntry()
     Intervalo_[r] = gui::newHeading(frame);
     Intervalo_[r]->setObjectName(QString("Intervalo%1").arg(row + 1));
     Intervalo_[r]->setText(QString("Intervalo %1").arg(row + 1));
-    grid->addWidget(Intervalo_[r], row + 2, 0);
+    grid->addWidget(Intervalo_[r], row + 1, 0);
     for (std::size_t c = 0; c < 3; ++c) {
       QLineEdit* cell = gui::newCell(frame);
       cell->setObjectName(QString("%1%2").arg(QChar(filas[r])).arg(c + 1));
       cell->setFixedWidth(110);
-      grid->addWidget(cell, row + 2, static_cast<int>(c) + 1);
+      grid->addWidget(cell, row + 1, static_cast<int>(c) + 1);
       Tabla_[r][c] = cell;
     }
   }
   grid->setColumnStretch(4, 1);
   gui::placeTable(body(), fieldGrid(), frame);
+  body()->insertWidget(body()->indexOf(frame), nota);
   setFields(DescuentoFields{});
 }
 

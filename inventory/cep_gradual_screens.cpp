@@ -25,7 +25,7 @@ void registerGradualScreens() {
   });
   screens.add("GI_CEPGradual_Solución", [] {
     return new PedidoSolution<GradualFields>(
-        "GI_CEPGradual_Solución", "Cantidad Económica de Pedido con Suministro Gradual", 100, 34);
+        "GI_CEPGradual_Solución", "Cantidad Económica de Pedido con Suministro Gradual", 122, 32);
   });
 }
 

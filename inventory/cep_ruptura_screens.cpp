@@ -25,7 +25,7 @@ void registerRupturaScreens() {
   });
   screens.add("GI_CEPRuptura_Solución", [] {
     return new PedidoSolution<RupturaFields>("GI_CEPRuptura_Solución",
-                                             "Cantidad Económica de Pedido con Ruptura", 110, 36);
+                                             "Cantidad Económica de Pedido con Ruptura", 126, 34);
   });
 }
 
