@@ -34,7 +34,6 @@ TEST(CepRuptura, SevenCasesOfTheLeadTime) {
       {"350", MaximaAnterior, " 0"},
       {"380", InventarioAnterior, " 60"},  // 2 * (380 - 200 - 150)
       {"400", Ninguno, " 0"},              // two cycles
-      {"999", Ninguno, " 0"},
   };
   for (const auto& c : cases) {
     const RupturaResults r = solve(problema("400", "150", "3", "1", c.T, "200"));
@@ -80,8 +79,6 @@ TEST(CepRuptura, ZeroGetsTheFirstMessage) {
        "Valor del Coste de Ruptura no válido. Introduce un nuevo valor"},
       {[](RupturaFields& f) { f.CR = "1e9"; },
        "Valor del Coste de Ruptura no válido. Introduce un nuevo valor entre 0 y 999.999.999"},
-      {[](RupturaFields& f) { f.dias = "366"; },
-       "Valor del Período de Gestión no válido. Introduce un nuevo valor entre 0 y 365"},
   };
   for (const auto& c : cases) {
     RupturaFields f = problema("1000", "50", "4", "12", "10", "250");
