@@ -89,9 +89,10 @@ Messages check(const DescuentoFields& f) {
     for (int c = 0; c < 3; ++c) {
       const Cell& celda = f.Tabla[std::size_t(r)][std::size_t(c)];
       if (!celda.visible) continue;
-      // The cell that this one must not fall below: the one before it in the
-      // row's limits or in the list of limits; the costs of intervals 3 and
-      // 4 must fall below the cost of the interval before.
+      // Limits may not fall below the limit before them (an upper limit its
+      // lower one, a lower limit the upper one of the interval before); the
+      // costs of intervals 3 and 4 must be lower than the cost before them,
+      // while those of intervals 1 and 2 are not compared.
       auto fueraDeOrden = [&f, r, c] {
         const double v = valor(f, r, c);
         if (c == kSuperior) return v < valor(f, r, kInferior);
