@@ -3,24 +3,14 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
+#include "inventory/pedido.h"
 
 namespace vorel::inventory {
 
 Messages check(const EoqFields& f) {
-  return firstFailure({
-      {f.D, 999999999, "Valor de la demanda (D) no válido. Introduce un nuevo valor",
-       " entre 0 y 999.999.999"},
-      {f.E, 999999999, "Valor del coste de emisión (E) no válido. Introduce un nuevo valor",
-       " entre 0 y 999.999.999"},
-      {f.A, 999999999, "Valor del coste de almacenamiento (A) no válido. Introduce un nuevo valor",
-       " entre 0 y 999.999.999"},
-      {f.TS, 999, "Valor del Tiempo de Suministro (Ts) no válido. Introduce un nuevo valor",
-       " entre 0 y 999"},
-      {f.dias, 365, "Valor del Período de Gestión no válido. Introduce un nuevo valor",
-       " entre 0 y 365"},
-      {f.P, 999999999, "Valor del Coste unitario no válido. Introduce un nuevo valor",
-       " entre 0 y 999.999.999"},
-  });
+  return firstFailure({rango(f.D, campos::D), rango(f.E, campos::E), rango(f.A, campos::A),
+                       rango(f.TS, campos::TS), rango(f.dias, campos::dias),
+                       rango(f.P, campos::P)});
 }
 
 EoqResults solve(const EoqFields& f) {

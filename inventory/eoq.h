@@ -20,8 +20,8 @@ struct EoqResults {
   float Q = 0, n = 0, TR = 0, Pp = 0, CT = 0;
 };
 
-Messages check(const EoqFields& f);  // Resolver: the first failure, or none
-EoqResults solve(const EoqFields& f);  // the solution screen's activation
+Messages check(const EoqFields& f);                        // Resolver: the first failure, or none
+EoqResults solve(const EoqFields& f);                      // the solution screen's activation
 Report report(const EoqFields& f, const EoqResults& r);    // painted on Solucion1
 Report printout(const EoqFields& f, const EoqResults& r);  // Imprimir
 Pages solveAndReport(EoqFields& f);
