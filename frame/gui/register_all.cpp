@@ -3,6 +3,7 @@
 
 #include "decision/electra1_screens.h"
 #include "decision/incertidumbre_screens.h"
+#include "frame/gui/chart_screen.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
@@ -20,6 +21,7 @@ namespace vorel::gui {
 void registerAllScreens() {
   initPictures();
   registerMenuScreens();
+  registerChartPrintScreens();
   inventory::registerScreens();
   linear_programming::registerSimplexScreens();
   linear_programming::registerTransportesScreens();
