@@ -11,6 +11,9 @@
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
+#include "location_equipment/costes_totales_screens.h"
+#include "location_equipment/selec_van_screens.h"
+#include "productivity/curvas_experiencia_screens.h"
 #include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
@@ -30,6 +33,9 @@ void registerAllScreens() {
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
+  location_equipment::registerVanScreens();
+  location_equipment::registerCostesTotalesScreens();
+  productivity::registerExperienciaScreens();
 }
 
 }  // namespace vorel::gui
