@@ -82,7 +82,7 @@ void CostesTotalesEntry::resolver() {
 }
 
 CostesDosSolution::CostesDosSolution()
-    : ChartSolutionScreen("Select_C_Totales_Sol", "Costes Totales", 104, 14,
+    : ChartSolutionScreen("Select_C_Totales_Sol", "Costes Totales", 124, 14,
                           "Select_C_Totales_Sol_Imprimir") {}
 
 Pages CostesDosSolution::compute() {
@@ -92,7 +92,7 @@ Pages CostesDosSolution::compute() {
 }
 
 CostesTresSolution::CostesTresSolution()
-    : ChartSolutionScreen("Select_C_Totales_Sol1", "Costes Totales", 104, 14,
+    : ChartSolutionScreen("Select_C_Totales_Sol1", "Costes Totales", 124, 14,
                           "Select_C_Totales_Sol1_Imprimir") {}
 
 Pages CostesTresSolution::compute() {
