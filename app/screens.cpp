@@ -1,5 +1,6 @@
-// Every screen of the program: the frame's menus and each model's screens, in
-// the order of models.def.
+// Every screen of the program: the frame's menus and chart print screens, and
+// each model's screens, in the order of models.def.
+#include "frame/gui/chart_screen.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 
@@ -14,6 +15,7 @@ namespace vorel::gui {
 
 void registerAllScreens() {
   registerMenuScreens();
+  registerChartPrintScreens();
 #define VOREL_MODEL(subsystem, name, screens) subsystem::screens();
 #include "app/models.def"
 #undef VOREL_MODEL

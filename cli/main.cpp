@@ -16,12 +16,13 @@ using namespace vorel;
 
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO... [--print]\n"
+         "     vorel-report MODELO FICHERO... [--print | --chart]\n"
          "     vorel-report MODELO FICHERO --pdf SALIDA.pdf\n\n"
          "Lee cada FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
          "Con varios ficheros, cada informe va precedido de una línea «==> FICHERO <==».\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
+         "  --chart     imprime los datos del gráfico (nada si el modelo no tiene gráfico)\n"
          "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n\n"
          "Estado de salida (el mayor de los ficheros): 0 informe impreso; 1 comprobaciones\n"
          "no superadas (cada mensaje en una línea de stderr); 2 fichero ilegible; 3 error en\n"
@@ -57,6 +58,10 @@ int solve(const CatalogueEntry& model, const std::string& path, const cli::Optio
         std::cerr << error << "\n";
         return 2;
       }
+      return 0;
+    }
+    if (options.chart) {
+      if (!outcome.pages.chart.empty()) std::cout << renderText(outcome.pages.chart);
       return 0;
     }
     std::cout << renderText(options.print ? outcome.pages.page : outcome.pages.screen);

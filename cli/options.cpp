@@ -23,6 +23,8 @@ Options parseOptions(int argc, const char* const* argv) {
       o.help = true;
     } else if (word == "--print") {
       o.print = true;
+    } else if (word == "--chart") {
+      o.chart = true;
     } else if (word == "--pdf" && i + 1 < argc) {
       o.pdf = argv[++i];
     } else if (word.rfind("--pdf=", 0) == 0 && word.size() > 6) {

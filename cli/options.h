@@ -8,15 +8,16 @@
 namespace vorel::cli {
 
 struct Options {
-  bool list = false, help = false, print = false;
+  bool list = false, help = false, print = false, chart = false;
   std::string pdf;  // --pdf OUT
   std::string model;
   std::vector<std::string> files;
   bool bad = false;  // an unknown option, or --pdf without its file
-  // A model, at least one file, and --pdf only with exactly one file.
+  // A model, at least one file, at most one of --print, --chart and --pdf, and
+  // --pdf only with exactly one file.
   bool valid() const {
     return !bad && !model.empty() && !files.empty() && (pdf.empty() || files.size() == 1) &&
-           !(print && !pdf.empty());
+           (print + chart + !pdf.empty() <= 1);
   }
 };
 

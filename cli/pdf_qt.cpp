@@ -1,8 +1,9 @@
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include "cli/pdf.h"
+#include "frame/gui/chart_view.h"
 #include "frame/gui/printing.h"
 
 namespace vorel::cli {
@@ -16,7 +17,7 @@ bool writePdf(const Pages& pages, const std::string& path, std::string& error) {
     static int argc = 1;
     static char name[] = "vorel-report";
     static char* argv[] = {name, nullptr};
-    new QGuiApplication(argc, argv);
+    new QApplication(argc, argv);  // charts are graphics widgets
   }
   QPdfWriter writer(QString::fromStdString(path));
   writer.setPageSize(QPageSize(QPageSize::A4));
@@ -28,6 +29,9 @@ bool writePdf(const Pages& pages, const std::string& path, std::string& error) {
     return false;
   }
   gui::paintPage(painter, page, 0, [&writer] { writer.newPage(); });
+  if (!pages.chart.empty())
+    gui::paintChart(painter, pages.chart,
+                    gui::chartPlace(pages.chart, painter.viewport(), writer.resolution()));
   painter.end();
   return true;
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <set>
 
 #include "frame/catalogue.h"
 #include "frame/gui/model_screens.h"
@@ -23,7 +24,9 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
   const QString dir = qEnvironmentVariable("VOREL_SCREENSHOTS", "screenshots");
   QDir().mkpath(dir);
   for (const nav::ScreenInfo& info : nav::screens()) {
-    if (!screens().available(info.name) || info.kind == nav::Kind::Solution) continue;
+    if (!screens().available(info.name) || info.kind == nav::Kind::Solution ||
+        info.kind == nav::Kind::ChartPrint)
+      continue;
     screens().reset();
     gui::Screen* s = screens().show(info.name);
     if (info.kind != nav::Kind::Entry) {
@@ -36,6 +39,7 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
     if (!model) continue;
     const QDir examples(QString(VOREL_SOURCE_DIR) + "/examples/" + QString::fromStdString(model->id));
     save(s, dir, info.name);
+    std::set<std::string> pictured;  // every solution screen the examples reach
     for (const QString& file : examples.entryList(QDir::Files, QDir::Name)) {
       platform.openAnswers.push_back(examples.filePath(file));
       press(info.name, "abrir");
@@ -45,14 +49,13 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
         press(info.name, command);
       press(info.name, "Resolver");
       if (!platform.runtimeErrors.empty()) continue;  // the process would have ended
-      bool solved = false;
       for (const std::string& solution : info.solutions) {
-        if (!visible(solution)) continue;
+        if (!visible(solution) || pictured.count(solution)) continue;
         save(screens().loaded(info.name), dir, info.name);
         save(screen(solution), dir, solution);
-        solved = true;
+        pictured.insert(solution);
       }
-      if (solved) break;
+      if (pictured.size() == info.solutions.size()) break;
     }
   }
 }

@@ -142,6 +142,8 @@ protected:
 
   // Reads the entry screen's fields afresh and computes both reports.
   virtual Pages compute() = 0;
+  // What the screen paints besides its report (a chart), after computing.
+  virtual void draw(const Pages&) {}
   virtual void imprimir();
 
   template <class EntryType>
