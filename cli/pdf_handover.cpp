@@ -14,10 +14,8 @@ std::filesystem::path pdfWriter() {
   const fs::path self = fs::read_symlink("/proc/self/exe", error);
   if (!error && fs::exists(self.parent_path() / "vorel-pdf", error))
     return self.parent_path() / "vorel-pdf";
-#ifdef VOREL_LIBEXEC_DIR
-  if (fs::exists(fs::path(VOREL_LIBEXEC_DIR) / "vorel-pdf", error))
-    return fs::path(VOREL_LIBEXEC_DIR) / "vorel-pdf";
-#endif
+  const fs::path installed = self.parent_path() / VOREL_LIBEXEC_DIR / "vorel-pdf";
+  if (!error && fs::exists(installed, error)) return installed;
   return {};
 }
 

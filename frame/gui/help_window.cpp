@@ -1,6 +1,7 @@
 #include "frame/gui/help_window.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -11,9 +12,10 @@
 namespace vorel::gui {
 
 QString helpFolder() {
-  const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/ayuda");
+  const QString program = QCoreApplication::applicationDirPath();
+  const QString beside = program + QStringLiteral("/ayuda");
   if (QFileInfo::exists(beside + QStringLiteral("/VorelAyuda.html"))) return beside;
-  return QStringLiteral(VOREL_HELP_DIR);
+  return QDir::cleanPath(program + QStringLiteral("/" VOREL_HELP_DIR));
 }
 
 HelpWindow& HelpWindow::instance() {
