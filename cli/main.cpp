@@ -12,11 +12,12 @@ namespace {
 
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO [--print | --pdf SALIDA.pdf]\n\n"
+         "     vorel-report MODELO FICHERO [--print | --pdf SALIDA.pdf] [--grafico G]\n\n"
          "Lee FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
-         "  --pdf F     escribe la página impresa como PDF en F\n\n"
+         "  --pdf F     escribe la página impresa como PDF en F\n"
+         "  --grafico G el gráfico G de un modelo con varios (abajo)\n\n"
          "Estado de salida: 0 informe impreso; 1 comprobaciones no superadas (cada mensaje en\n"
          "una línea de stderr); 2 fichero ilegible; 3 error en tiempo de ejecución;\n"
          "4 el método no termina (la pantalla seguiría calculando sin fin).\n";
@@ -27,6 +28,10 @@ void usage(std::ostream& out) {
     any = true;
     out << "  " << m.id << ": " << m.presses << "\n";
   }
+  out << "\nModelos con varios gráficos (sin --grafico, el que da Resolver):\n";
+  for (const auto& c : vorel::cli::charts())
+    out << "  " << c.model << (c.name.empty() ? "" : " --grafico " + c.name) << ": " << c.help
+        << "\n";
 }
 
 }  // namespace
@@ -42,7 +47,14 @@ int main(int argc, char** argv) {
     return 0;
   }
   bool print = false;
-  std::string pdf;
+  std::string pdf, chart;
+  for (int a = 3; a + 1 < argc; ++a)  // --grafico G, anywhere after the file
+    if (std::strcmp(argv[a], "--grafico") == 0) {
+      chart = argv[a + 1];
+      for (int b = a; b + 2 <= argc; ++b) argv[b] = argv[b + 2];
+      argc -= 2;
+      break;
+    }
   if (argc == 4 && std::strcmp(argv[3], "--print") == 0) {
     print = true;
   } else if (argc == 5 && std::strcmp(argv[3], "--pdf") == 0) {
@@ -56,8 +68,15 @@ int main(int argc, char** argv) {
     std::cerr << "Modelo desconocido: " << argv[1] << " (vorel-report --list los enumera)\n";
     return 2;
   }
+  const cli::CliChart* other = nullptr;
+  for (const auto& c : cli::charts())
+    if (!chart.empty() && c.model == model->id && c.name == chart) other = &c;
+  if (!chart.empty() && !other) {
+    std::cerr << "Gráfico desconocido: " << chart << " (vorel-report --help los enumera)\n";
+    return 2;
+  }
   try {
-    RunOutcome outcome = model->run(argv[2]);
+    RunOutcome outcome = other ? other->run(argv[2]) : model->run(argv[2]);
     switch (outcome.status) {
       case RunStatus::Unreadable:
         std::cerr << "No se pudo leer el fichero: " << argv[2] << "\n";

@@ -12,6 +12,11 @@ const std::vector<CliModel>& models() {
   return all;
 }
 
+const std::vector<CliChart>& charts() {
+  static const std::vector<CliChart> all = qualityCharts();
+  return all;
+}
+
 const CliModel* findModel(const std::string& idOrScreen) {
   for (const CliModel& m : models())
     if (m.id == idOrScreen || m.screen == idOrScreen) return &m;

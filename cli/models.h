@@ -29,6 +29,15 @@ CliModel entry(std::string id, std::string screen, std::string presses,
 }
 
 const std::vector<CliModel>& models();
+
+// The charts of a model with several: the one its run gives (empty `name`)
+// and the others, chosen by --grafico NAME.
+struct CliChart {
+  std::string model, name, help;
+  std::function<RunOutcome(const std::string& path)> run;  // none for the default one
+};
+const std::vector<CliChart>& charts();
+std::vector<CliChart> qualityCharts();
 // Each subsystem's models, in cli/models_<subsystem>.cpp.
 std::vector<CliModel> linearProgrammingModels();
 std::vector<CliModel> decisionModels();

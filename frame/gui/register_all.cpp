@@ -10,6 +10,9 @@
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
+#include "quality/control_atributos_screens.h"
+#include "quality/control_defectos_screens.h"
+#include "quality/control_variables_screens.h"
 #include "queueing/colas_screens.h"
 
 // The pictures live in the library's resources, which a static link must pull in.
@@ -28,6 +31,9 @@ void registerAllScreens() {
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
+  quality::registerVariablesScreens();
+  quality::registerAtributosScreens();
+  quality::registerDefectosScreens();
 }
 
 }  // namespace vorel::gui

@@ -1,0 +1,80 @@
+// What the screens of quality control share: the table of up to 45 samples in
+// three blocks of 15 rows, and the chart solution screen with its report, its
+// chart, Recalcular and Imprimir of the chart page.
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <array>
+
+#include "frame/gui/control_array.h"
+#include "frame/gui/model_screens.h"
+#include "frame/gui/picture_button.h"
+#include "quality/control.h"
+
+class QChartView;
+
+namespace vorel::quality {
+
+// The samples' table: the row numbers K(i) and two columns of cells, each
+// row of a block below the heads of its block (Lblk(b) and the heads of the
+// columns; the second column has two heads, one shown at a time, where the
+// model names it in two ways).
+struct SampleTable {
+  QFrame* frame = nullptr;
+  gui::ControlArray<QLabel> K;
+  gui::ControlArray<QLineEdit> first, second;
+  gui::ControlArray<QLabel> Lblk, headFirst, headSecond, headOther;
+  // `other` empty: no second head of the second column.
+  void create(gui::EntryScreen& screen, QVBoxLayout* body, const QString& firstName,
+              const QString& secondName, const QString& headFirstName, const QString& headFirstText,
+              const QString& headSecondName, const QString& headSecondText,
+              const QString& otherName = {}, const QString& otherText = {});
+};
+
+// A legend below the table `after`.
+QLabel* legend(QWidget* screen, QVBoxLayout* body, QWidget* after, const QString& name,
+               const QString& text);
+// An option of the entry, under the field grid.
+QRadioButton* option(gui::EntryScreen& screen, const QString& name, const QString& text);
+
+void readVisible(const gui::ControlArray<QLabel>& labels, bool* into);
+void writeVisible(const gui::ControlArray<QLabel>& labels, const bool* from);
+
+// The title of the screen reports: Titulo1 of Selec_Van (loading that screen
+// as reading its control does), or that field's preset where the program has
+// no such screen.
+std::string selecVanTitulo1();
+
+// A chart solution screen: Label1, Label2 with the chart's name, the report
+// Solucion1, the chart MSChart1 drawn from the chart data, Recalcular and
+// Imprimir. Subclasses compute through their model.
+class ControlSolution : public gui::SolutionScreen {
+  Q_OBJECT
+ public:
+  ControlSolution(const std::string& name, const QString& label2);
+  QChartView* MSChart1() const { return chart_; }
+  const Chart& drawn() const { return drawn_; }
+  const ControlScreen& state() const { return *state_; }
+
+ protected:
+  // Paints a Recalcular's report and draws its chart.
+  void show(const Painted& painted);
+  void draw(const Chart& chart);
+  void showCommands();
+  // The page of Imprimir with the screen's stored matrix, at the chart's
+  // fractions of the page; the document ends.
+  void printPage(const Report& page);
+  virtual void recalcular() = 0;
+
+  ControlScreen* state_ = nullptr;  // the screen-level variables, in the subclass
+  gui::PictureButton* Recalcular_;
+
+ private:
+  QChartView* chart_;
+  Chart drawn_;
+};
+
+}  // namespace vorel::quality
