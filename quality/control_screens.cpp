@@ -40,8 +40,11 @@ void SampleTable::create(gui::EntryScreen& screen, QVBoxLayout* body, const QStr
     const int column = b * 4;
     grid->addWidget(Lblk(b), 0, column);
     grid->addWidget(headFirst(b), 0, column + 1);
-    grid->addWidget(headSecond(b), 0, column + 2);
-    if (!otherName.isEmpty()) grid->addWidget(headOther(b), 0, column + 2);
+    // Where the column has two heads they share its place, one at each side,
+    // so that both read when both are shown.
+    grid->addWidget(headSecond(b), 0, column + 2,
+                    otherName.isEmpty() ? Qt::Alignment() : Qt::AlignLeft);
+    if (!otherName.isEmpty()) grid->addWidget(headOther(b), 0, column + 2, Qt::AlignRight);
     if (b < 2) grid->setColumnMinimumWidth(column + 3, 18);
   }
   for (int i = 0; i < kMaxMuestras; ++i) {
@@ -99,7 +102,18 @@ ControlSolution::ControlSolution(const std::string& name, const QString& label2)
   body()->insertWidget(2, chart_);
   Recalcular_ = command(
       "Recalcular", "cmd-resolver", "Recalcular", [this] { recalcular(); }, 40);
-  commandRow()->insertLayout(0, gui::captioned(Recalcular_));
+  placeCommand(Recalcular_);
+}
+
+void ControlSolution::placeCommand(gui::PictureButton* button) {
+  QVBoxLayout* column = gui::captioned(button);
+  captions_[button] = column->itemAt(1)->widget();
+  commandRow()->insertLayout(0, column);
+}
+
+void ControlSolution::setShown(gui::PictureButton* button, bool shown) {
+  button->setVisible(shown);
+  captions_.at(button)->setVisible(shown);
 }
 
 void ControlSolution::draw(const Chart& data) {
@@ -159,7 +173,7 @@ void ControlSolution::show(const Painted& painted) {
   showCommands();
 }
 
-void ControlSolution::showCommands() { Recalcular_->setVisible(state_ && state_->Recalcular); }
+void ControlSolution::showCommands() { setShown(Recalcular_, state_ && state_->Recalcular); }
 
 void ControlSolution::printPage(const Report& page) {
   gui::platform().printerDialog();

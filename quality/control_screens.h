@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <array>
+#include <map>
 
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
@@ -64,6 +65,10 @@ class ControlSolution : public gui::SolutionScreen {
   void show(const Painted& painted);
   void draw(const Chart& chart);
   void showCommands();
+  // Puts a command in the row of commands, with its name below it; shows or
+  // hides the two together.
+  void placeCommand(gui::PictureButton* button);
+  void setShown(gui::PictureButton* button, bool shown);
   // The page of Imprimir with the screen's stored matrix, at the chart's
   // fractions of the page; the document ends.
   void printPage(const Report& page);
@@ -75,6 +80,7 @@ class ControlSolution : public gui::SolutionScreen {
  private:
   QChartView* chart_;
   Chart drawn_;
+  std::map<gui::PictureButton*, QWidget*> captions_;
 };
 
 }  // namespace vorel::quality

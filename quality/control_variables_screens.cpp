@@ -113,7 +113,7 @@ VariablesSolution::VariablesSolution(Grafico g)
         if (g == Grafico::Medias) vorel::raise(err::ObjectNotSet);
       },
       40);
-  commandRow()->insertLayout(0, gui::captioned(redibujar));
+  placeCommand(redibujar);
   if (g == Grafico::Medias) {
     ControlDesviaciones_ = command(
         "ControlDesviaciones", "cmd-forward", "Control de Desviaciones Típicas",
@@ -129,13 +129,13 @@ VariablesSolution::VariablesSolution(Grafico g)
           gui::Screens::instance().show(kSolutions[2]);
         },
         40);
-    commandRow()->insertLayout(0, gui::captioned(ControlRecorridos_));
-    commandRow()->insertLayout(0, gui::captioned(ControlDesviaciones_));
+    placeCommand(ControlRecorridos_);
+    placeCommand(ControlDesviaciones_);
     // volver hides both before going back to the entry.
     if (auto* volver = findChild<QAbstractButton*>("volver"))
       connect(volver, &QAbstractButton::clicked, this, [this] {
-        ControlDesviaciones_->hide();
-        ControlRecorridos_->hide();
+        setShown(ControlDesviaciones_, false);
+        setShown(ControlRecorridos_, false);
       });
   }
 }
@@ -143,8 +143,8 @@ VariablesSolution::VariablesSolution(Grafico g)
 void VariablesSolution::showButtons() {
   showCommands();
   if (ControlDesviaciones_) {
-    ControlDesviaciones_->setVisible(screen_.ControlDesviaciones);
-    ControlRecorridos_->setVisible(screen_.ControlRecorridos);
+    setShown(ControlDesviaciones_, screen_.ControlDesviaciones);
+    setShown(ControlRecorridos_, screen_.ControlRecorridos);
   }
 }
 
