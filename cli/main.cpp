@@ -12,10 +12,11 @@ namespace {
 
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO [--print | --pdf SALIDA.pdf] [--grafico G]\n\n"
+         "     vorel-report MODELO FICHERO [--print | --chart | --pdf SALIDA.pdf] [--grafico G]\n\n"
          "Lee FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
+         "  --chart     imprime los datos del gráfico (nada si el modelo no tiene gráfico)\n"
          "  --pdf F     escribe la página impresa como PDF en F\n"
          "  --grafico G el gráfico G de un modelo con varios (abajo)\n\n"
          "Estado de salida: 0 informe impreso; 1 comprobaciones no superadas (cada mensaje en\n"
@@ -46,17 +47,19 @@ int main(int argc, char** argv) {
     usage(std::cout);
     return 0;
   }
-  bool print = false;
-  std::string pdf, chart;
+  bool print = false, chart = false;
+  std::string pdf, grafico;
   for (int a = 3; a + 1 < argc; ++a)  // --grafico G, anywhere after the file
     if (std::strcmp(argv[a], "--grafico") == 0) {
-      chart = argv[a + 1];
+      grafico = argv[a + 1];
       for (int b = a; b + 2 <= argc; ++b) argv[b] = argv[b + 2];
       argc -= 2;
       break;
     }
   if (argc == 4 && std::strcmp(argv[3], "--print") == 0) {
     print = true;
+  } else if (argc == 4 && std::strcmp(argv[3], "--chart") == 0) {
+    chart = true;
   } else if (argc == 5 && std::strcmp(argv[3], "--pdf") == 0) {
     pdf = argv[4];
   } else if (argc != 3) {
@@ -70,9 +73,9 @@ int main(int argc, char** argv) {
   }
   const cli::CliChart* other = nullptr;
   for (const auto& c : cli::charts())
-    if (!chart.empty() && c.model == model->id && c.name == chart) other = &c;
-  if (!chart.empty() && !other) {
-    std::cerr << "Gráfico desconocido: " << chart << " (vorel-report --help los enumera)\n";
+    if (!grafico.empty() && c.model == model->id && c.name == grafico) other = &c;
+  if (!grafico.empty() && !other) {
+    std::cerr << "Gráfico desconocido: " << grafico << " (vorel-report --help los enumera)\n";
     return 2;
   }
   try {
@@ -89,10 +92,14 @@ int main(int argc, char** argv) {
     }
     if (!pdf.empty()) {
       std::string error;
-      if (!cli::writePdf(outcome.pages.page, pdf, error)) {
+      if (!cli::writePdf(outcome.pages.page, outcome.pages.chart, pdf, error)) {
         std::cerr << error << "\n";
         return 2;
       }
+      return 0;
+    }
+    if (chart) {
+      if (!outcome.pages.chart.empty()) std::cout << renderText(outcome.pages.chart);
       return 0;
     }
     std::cout << renderText(print ? outcome.pages.page : outcome.pages.screen);
@@ -101,8 +108,7 @@ int main(int argc, char** argv) {
     std::cerr << "Error " << e.number() << ": " << e.what() << "\n";
     return 3;
   } catch (const DoesNotEnd&) {
-    std::cerr << "El método no termina: se detuvo tras " << kCommandLineStepBudget
-              << " pasos.\n";
+    std::cerr << "El método no termina: se detuvo tras " << kCommandLineStepBudget << " pasos.\n";
     return 4;
   }
 }

@@ -2,7 +2,7 @@
 
 namespace vorel::cli {
 
-bool writePdf(const Report&, const std::string&, std::string& error) {
+bool writePdf(const Report&, const Chart&, const std::string&, std::string& error) {
   error = "Esta versión de vorel-report se construyó sin la biblioteca gráfica: no puede escribir PDF.";
   return false;
 }

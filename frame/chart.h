@@ -16,15 +16,29 @@ struct ValueAxis {
   bool operator==(const ValueAxis&) const = default;
 };
 
+// How the matrix is drawn.
+enum class ChartKind {
+  Lines,  // each column a line over the rows, the rows evenly spaced and labelled
+  XY,     // the columns in pairs, the x then the y of each series; the rows are its points
+};
+
 struct Chart {
-  std::vector<std::string> series;          // one name per column
+  std::vector<std::string> series;          // one name per column (per pair of columns in XY)
   std::vector<std::string> rows;            // one label per point (category axis)
   std::vector<std::vector<double>> matrix;  // matrix[row][column]
   ValueAxis axis;
   // Where Imprimir paints the chart: fractions of the page's width and height.
   double pageLeft = 0, pageTop = 0;
+  ChartKind kind = ChartKind::Lines;
+  std::string title;                        // above the chart; empty for none
+  std::string categoryTitle, valueTitle;    // the axes' titles; empty for none
   bool operator==(const Chart&) const = default;
   bool empty() const { return matrix.empty(); }
 };
+
+// The chart's data as plain text: title, kind, axes, place on the page, then
+// one line per row with its label and its values, tab-separated. What the
+// command-line program prints and the tests compare.
+std::string renderText(const Chart& chart);
 
 }  // namespace vorel

@@ -117,7 +117,6 @@ Pages AtributosSolution::compute() {
     throw;
   }
   entrada.setFields(f);
-  draw(painted.chart);
   showCommands();
   return {painted.report, printout(np_, f, screen_), painted.chart};
 }
@@ -133,12 +132,7 @@ void AtributosSolution::recalcular() {
     throw;
   }
   entrada.setFields(f);
-  show(painted);
-}
-
-void AtributosSolution::imprimir() {
-  auto& entrada = *dynamic_cast<AtributosEntry*>(gui::Screens::instance().load(kEntry));
-  printPage(printout(np_, entrada.fields(), screen_));
+  show(painted, printout(np_, f, screen_));
 }
 
 void registerAtributosScreens() {

@@ -35,7 +35,6 @@ class AtributosSolution : public ControlSolution {
  protected:
   Pages compute() override;
   void recalcular() override;
-  void imprimir() override;
 
  private:
   bool np_;

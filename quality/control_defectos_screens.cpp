@@ -108,7 +108,6 @@ Pages DefectosSolution::compute() {
     throw;
   }
   entrada.setFields(f);
-  draw(painted.chart);
   showCommands();
   return {painted.report, printout(variable_, f, screen_), painted.chart};
 }
@@ -124,12 +123,7 @@ void DefectosSolution::recalcular() {
     throw;
   }
   entrada.setFields(f);
-  show(painted);
-}
-
-void DefectosSolution::imprimir() {
-  auto& entrada = *dynamic_cast<DefectosEntry*>(gui::Screens::instance().load(kEntry));
-  printPage(printout(variable_, entrada.fields(), screen_));
+  show(painted, printout(variable_, f, screen_));
 }
 
 void registerDefectosScreens() {

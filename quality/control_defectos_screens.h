@@ -35,7 +35,6 @@ class DefectosSolution : public ControlSolution {
  protected:
   Pages compute() override;
   void recalcular() override;
-  void imprimir() override;
 
  private:
   bool variable_;

@@ -1,14 +1,10 @@
 #include "quality/control_screens.h"
 
-#include <QChart>
-#include <QChartView>
 #include <QGridLayout>
-#include <QLineSeries>
-#include <QValueAxis>
 
 #include "frame/gui/picture_button.h"
 #include "frame/gui/table_screen.h"
-#include "quality/control_variables.h"
+#include "location_equipment/selec_van_screens.h"
 
 namespace vorel::quality {
 
@@ -81,25 +77,14 @@ void writeVisible(const gui::ControlArray<QLabel>& labels, const bool* from) {
   for (int i = labels.first(); i <= labels.last(); ++i) labels(i)->setVisible(from[i]);
 }
 
-std::string selecVanTitulo1() {
-  gui::Screens& screens = gui::Screens::instance();
-  if (screens.available("Selec_Van"))
-    if (auto* title = screens.load("Selec_Van")->findChild<QLineEdit*>("Titulo1"))
-      return title->text().toStdString();
-  return selecVanTitulo1Preset();
-}
+std::string selecVanTitulo1() { return location_equipment::selecVanTitulo1(); }
 
 ControlSolution::ControlSolution(const std::string& name, const QString& label2)
-    : SolutionScreen(name, "Control Estadístico de la Calidad", 84, 22) {
+    : ChartSolutionScreen(name, "Control Estadístico de la Calidad", 64, 22, name + "_Imprimir") {
   auto* title = new QLabel(label2, this);
   title->setObjectName("Label2");
   title->setStyleSheet("font-size: 12pt; font-weight: 600; color: #2D3748;");
   body()->insertWidget(0, title);
-  chart_ = new QChartView(this);
-  chart_->setObjectName("MSChart1");
-  chart_->setMinimumSize(620, 300);
-  chart_->setRenderHint(QPainter::Antialiasing);
-  body()->insertWidget(2, chart_);
   Recalcular_ = command(
       "Recalcular", "cmd-resolver", "Recalcular", [this] { recalcular(); }, 40);
   placeCommand(Recalcular_);
@@ -116,73 +101,14 @@ void ControlSolution::setShown(gui::PictureButton* button, bool shown) {
   captions_.at(button)->setVisible(shown);
 }
 
-void ControlSolution::draw(const Chart& data) {
-  drawn_ = data;
-  auto* chart = new QChart();
-  chart->legend()->setAlignment(Qt::AlignRight);
-  auto* x = new QValueAxis();
-  auto* y = new QValueAxis();
-  x->setLabelFormat("%d");
-  x->setRange(1, std::max<double>(2, double(data.rows.size())));
-  x->setTickCount(
-      std::min<int>(int(data.rows.size()), 15) > 1 ? std::min<int>(int(data.rows.size()), 15) : 2);
-  const QColor colours[] = {QColor("#2B6CB0"), QColor("#C53030"), QColor("#C53030"),
-                            QColor("#2F855A")};
-  double low = 0, high = 1;
-  bool any = false;
-  for (std::size_t c = 0; c < data.series.size(); ++c) {
-    auto* series = new QLineSeries();
-    series->setName(QString::fromStdString(data.series[c]));
-    QPen pen(colours[c % 4]);
-    pen.setWidthF(c == 0 ? 2 : 1.5);
-    if (c == 1 || c == 2) pen.setStyle(Qt::DashLine);
-    series->setPen(pen);
-    if (c == 0) series->setPointsVisible(true);
-    for (std::size_t r = 0; r < data.matrix.size(); ++r) {
-      const double v = data.matrix[r][c];
-      series->append(double(r + 1), v);
-      low = any ? std::min(low, v) : v;
-      high = any ? std::max(high, v) : v;
-      any = true;
-    }
-    chart->addSeries(series);
-  }
-  chart->addAxis(x, Qt::AlignBottom);
-  chart->addAxis(y, Qt::AlignLeft);
-  for (auto* s : chart->series()) {
-    s->attachAxis(x);
-    s->attachAxis(y);
-  }
-  if (!data.axis.automatic) {
-    y->setRange(data.axis.minimum, data.axis.maximum);
-    y->setTickCount(6);  // a major division of 5
-  } else {
-    const double margin = high > low ? (high - low) * 0.08 : 1;
-    y->setRange(low - margin, high + margin);
-    y->applyNiceNumbers();
-  }
-  QChart* old = chart_->chart();
-  chart_->setChart(chart);
-  delete old;
-}
-
-void ControlSolution::show(const Painted& painted) {
+void ControlSolution::show(const Painted& painted, Report page) {
   Solucion1()->Cls();
   Solucion1()->setReport(painted.report);
-  draw(painted.chart);
+  MSChart1()->setData(painted.chart);
+  setPage(std::move(page));
   showCommands();
 }
 
 void ControlSolution::showCommands() { setShown(Recalcular_, state_ && state_->Recalcular); }
-
-void ControlSolution::printPage(const Report& page) {
-  gui::platform().printerDialog();
-  // The chart on paper is drawn from the stored matrix, as on the screen.
-  const Chart shown = drawn_;
-  draw(state_->chart);
-  const QImage picture = chart_->grab().toImage();
-  draw(shown);
-  gui::printChartPage(page, picture, state_->chart.pageLeft, state_->chart.pageTop);
-}
 
 }  // namespace vorel::quality

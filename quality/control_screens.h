@@ -10,12 +10,11 @@
 #include <array>
 #include <map>
 
+#include "frame/gui/chart_screen.h"
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
 #include "frame/gui/picture_button.h"
 #include "quality/control.h"
-
-class QChartView;
 
 namespace vorel::quality {
 
@@ -45,41 +44,33 @@ void readVisible(const gui::ControlArray<QLabel>& labels, bool* into);
 void writeVisible(const gui::ControlArray<QLabel>& labels, const bool* from);
 
 // The title of the screen reports: Titulo1 of Selec_Van (loading that screen
-// as reading its control does), or that field's preset where the program has
-// no such screen.
+// as reading its control does).
 std::string selecVanTitulo1();
 
 // A chart solution screen: Label1, Label2 with the chart's name, the report
-// Solucion1, the chart MSChart1 drawn from the chart data, Recalcular and
-// Imprimir. Subclasses compute through their model.
-class ControlSolution : public gui::SolutionScreen {
+// Solucion1, the chart MSChart1, Recalcular and Imprimir of the chart page.
+// Subclasses compute through their model.
+class ControlSolution : public gui::ChartSolutionScreen {
   Q_OBJECT
  public:
   ControlSolution(const std::string& name, const QString& label2);
-  QChartView* MSChart1() const { return chart_; }
-  const Chart& drawn() const { return drawn_; }
   const ControlScreen& state() const { return *state_; }
 
  protected:
-  // Paints a Recalcular's report and draws its chart.
-  void show(const Painted& painted);
-  void draw(const Chart& chart);
+  // Paints a Recalcular's report and draws its chart, which is not kept: the
+  // page keeps the first pass's matrix, and prints `page`.
+  void show(const Painted& painted, Report page);
   void showCommands();
   // Puts a command in the row of commands, with its name below it; shows or
   // hides the two together.
   void placeCommand(gui::PictureButton* button);
   void setShown(gui::PictureButton* button, bool shown);
-  // The page of Imprimir with the screen's stored matrix, at the chart's
-  // fractions of the page; the document ends.
-  void printPage(const Report& page);
   virtual void recalcular() = 0;
 
   ControlScreen* state_ = nullptr;  // the screen-level variables, in the subclass
   gui::PictureButton* Recalcular_;
 
  private:
-  QChartView* chart_;
-  Chart drawn_;
   std::map<gui::PictureButton*, QWidget*> captions_;
 };
 

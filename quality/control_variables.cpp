@@ -1,6 +1,7 @@
 #include "quality/control_variables.h"
 
 #include "frame/arith.h"
+#include "location_equipment/selec_van.h"
 
 namespace vorel::quality {
 
@@ -254,7 +255,7 @@ Report printout(Grafico g, const VariablesFields& f, const VariablesScreen& s) {
   return {};
 }
 
-std::string selecVanTitulo1Preset() { return "Problema1"; }
+std::string selecVanTitulo1Preset() { return location_equipment::VanFields{}.Titulo1; }
 
 Pages solveAndReport(VariablesFields& f, Grafico g) {
   const std::string title = selecVanTitulo1Preset();

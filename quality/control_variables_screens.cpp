@@ -160,7 +160,6 @@ Pages VariablesSolution::compute() {
     throw;
   }
   entrada.setFields(f);
-  draw(painted.chart);
   showButtons();
   return {painted.report, printout(g_, f, screen_), painted.chart};
 }
@@ -176,15 +175,14 @@ void VariablesSolution::recalcular() {
     throw;
   }
   entrada.setFields(f);
-  show(painted);
+  show(painted, printout(g_, f, screen_));
   showButtons();
 }
 
 void VariablesSolution::imprimir() {
   // The charts of deviations and ranges call on a printer dialog that was never set.
   if (g_ != Grafico::Medias) vorel::raise(err::ObjectNotSet);
-  auto& entrada = *dynamic_cast<VariablesEntry*>(gui::Screens::instance().load(kEntry));
-  printPage(printout(g_, entrada.fields(), screen_));
+  ChartSolutionScreen::imprimir();
 }
 
 void registerVariablesScreens() {

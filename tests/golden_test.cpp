@@ -55,6 +55,11 @@ TEST(Examples, SolveToTheirGoldenText) {
       SCOPED_TRACE(file);
       compareWithGolden(transcript(id + " '" + file + "'"), golden.string() + ".report");
       compareWithGolden(transcript(id + " '" + file + "' --print"), golden.string() + ".page");
+      // A charted model's chart data (what its screen draws and its page paints).
+      const std::string chart = transcript(id + " '" + file + "' --chart");
+      const fs::path chartGolden = golden.string() + ".chart";
+      if (chart.rfind("Gráfico:", 0) == 0 || fs::exists(chartGolden))
+        compareWithGolden(chart, chartGolden);
       ++count;
     }
   }

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "cli/models.h"
+#include "frame/gui/chart_screen.h"
 #include "frame/gui/model_screens.h"
 #include "frame/navigation.h"
 #include "frame/problem_file.h"
@@ -75,6 +76,10 @@ TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
         EXPECT_EQ(painted(*shownSolution), report);
         auto* solution = dynamic_cast<gui::SolutionScreen*>(screen(*shownSolution));
         EXPECT_EQ(renderText(solution->page()), golden(model.id, file, "page"));
+        if (auto* charted = dynamic_cast<gui::ChartSolutionScreen*>(solution)) {
+          EXPECT_EQ(renderText(charted->chart()), golden(model.id, file, "chart"));
+          EXPECT_EQ(charted->MSChart1()->data(), charted->chart());
+        }
       }
     }
   }

@@ -123,6 +123,7 @@ void SolutionScreen::formActivate() {
     Pages pages = compute();
     page_ = pages.page;
     report_->setReport(pages.screen);
+    draw(pages);
   });
 }
 

@@ -127,6 +127,9 @@ public:
 
   ReportBox* Solucion1() const { return report_; }
   const Report& page() const { return page_; }
+  // What Imprimir prints from now on, where a command other than the
+  // activation computes again (Recalcular of the control charts).
+  void setPage(Report page) { page_ = std::move(page); }
 
   void formActivate() override;
   bool solving() const { return solving_; }
@@ -142,6 +145,8 @@ protected:
 
   // Reads the entry screen's fields afresh and computes both reports.
   virtual Pages compute() = 0;
+  // What the screen paints besides its report (a chart), after computing.
+  virtual void draw(const Pages&) {}
   virtual void imprimir();
 
   template <class EntryType>

@@ -103,6 +103,14 @@ void printChartPage(const Report& page, const QImage& chart, double leftFraction
   finishPrinterDocument();
 }
 
+void printChartPage(const Report& page,
+                    const std::function<void(QPainter&, const QRect& page)>& paintChart) {
+  printReport(page);
+  QPainter& painter = *document().painter;
+  paintChart(painter, painter.viewport());
+  finishPrinterDocument();
+}
+
 void finishPrinterDocument() {
   Document& d = document();
   if (d.painter) {

@@ -40,6 +40,10 @@ void printReport(const Report& page);
 // of the page's width and height; the document ends.
 void printChartPage(const Report& page, const QImage& chart, double leftFraction,
                     double topFraction);
+// The same with the chart painted by `paintChart`, given the painter and the
+// page's area.
+void printChartPage(const Report& page,
+                    const std::function<void(QPainter&, const QRect& page)>& paintChart);
 // Ends the gathered document, if any (at the end of the process).
 void finishPrinterDocument();
 

@@ -3,6 +3,7 @@
 
 #include "decision/electra1_screens.h"
 #include "decision/incertidumbre_screens.h"
+#include "frame/gui/chart_screen.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/screen.h"
 #include "games/juegos_n_screens.h"
@@ -10,6 +11,9 @@
 #include "linear_programming/asignacion_screens.h"
 #include "linear_programming/simplex_screens.h"
 #include "linear_programming/transportes_screens.h"
+#include "location_equipment/costes_totales_screens.h"
+#include "location_equipment/selec_van_screens.h"
+#include "productivity/curvas_experiencia_screens.h"
 #include "quality/control_atributos_screens.h"
 #include "quality/control_defectos_screens.h"
 #include "quality/control_variables_screens.h"
@@ -23,6 +27,7 @@ namespace vorel::gui {
 void registerAllScreens() {
   initPictures();
   registerMenuScreens();
+  registerChartPrintScreens();
   inventory::registerScreens();
   linear_programming::registerSimplexScreens();
   linear_programming::registerTransportesScreens();
@@ -31,6 +36,9 @@ void registerAllScreens() {
   decision::registerIncertidumbreScreens();
   games::registerJuegosNScreens();
   queueing::registerColasScreens();
+  location_equipment::registerVanScreens();
+  location_equipment::registerCostesTotalesScreens();
+  productivity::registerExperienciaScreens();
   quality::registerVariablesScreens();
   quality::registerAtributosScreens();
   quality::registerDefectosScreens();
