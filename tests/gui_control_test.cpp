@@ -4,6 +4,7 @@
 // the chart page.
 #include <gtest/gtest.h>
 
+#include "frame/gui/model_screens.h"
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
@@ -75,6 +76,18 @@ TEST_F(ControlScreens, CallsOnObjectsNeverSetEndInTheirRunTimeError) {
   press(kDesviaciones, "volver");
   press(kMedias, "Redibujar");
   EXPECT_EQ(platform.runtimeErrors, (std::vector<int>{91, 91}));
+}
+
+// The screen report takes its title from Selec_Van; the page from its own entry.
+TEST_F(ControlScreens, TheReportTitleIsSelecVans) {
+  screens().show("Selec_Van");
+  type("Selec_Van", "Titulo1", "Inversiones");
+  openFile(kEntry, examplePath("control-variables", "medias-bajo-control.txt"));
+  press(kEntry, "Resolver");
+  EXPECT_TRUE(has(kMedias, "Solución al problema:  Inversiones\n"));
+  auto* medias = dynamic_cast<gui::SolutionScreen*>(screen(kMedias));
+  EXPECT_NE(renderText(medias->page()).find("Solución al problema:  Ejes torneados\n"),
+            std::string::npos);
 }
 
 // Each chart print is a page of its own, with the first pass's set of values
