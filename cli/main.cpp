@@ -1,6 +1,7 @@
 // vorel-report: solves problem files as the desktop program would and prints
 // the report of each solution screen, without opening any window.
 #include <algorithm>
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -16,14 +17,15 @@ using namespace vorel;
 
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO... [--print | --chart]\n"
+         "     vorel-report MODELO FICHERO... [--print | --chart] [--grafico G]\n"
          "     vorel-report MODELO FICHERO --pdf SALIDA.pdf\n\n"
          "Lee cada FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
          "Con varios ficheros, cada informe va precedido de una línea «==> FICHERO <==».\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
          "  --chart     imprime los datos del gráfico (nada si el modelo no tiene gráfico)\n"
-         "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n\n"
+         "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n"
+         "  --grafico G el gráfico G de un modelo con varios (abajo)\n\n"
          "Estado de salida (el mayor de los ficheros): 0 informe impreso; 1 comprobaciones\n"
          "no superadas (cada mensaje en una línea de stderr); 2 fichero ilegible; 3 error en\n"
          "tiempo de ejecución; 4 el método no termina (la pantalla seguiría calculando sin fin).\n";
@@ -34,14 +36,20 @@ void usage(std::ostream& out) {
     any = true;
     out << "  " << m.id << ": " << m.presses << "\n";
   }
+  out << "\nModelos con varios gráficos (sin --grafico, el que da Resolver):\n";
+  for (const auto& m : catalogue()) {
+    if (!m.solutionHelp.empty()) out << "  " << m.id << ": " << m.solutionHelp << "\n";
+    for (const CatalogueView& v : m.views)
+      out << "  " << m.id << " --grafico " << v.name << ": " << v.help << "\n";
+  }
 }
 
 // Solves one file and prints its report; returns the exit status of that file.
 // `origin` heads the messages on stderr when several files are solved.
-int solve(const CatalogueEntry& model, const std::string& path, const cli::Options& options,
-          const std::string& origin) {
+int solve(const std::function<RunOutcome(const std::string&)>& run, const std::string& path,
+          const cli::Options& options, const std::string& origin) {
   try {
-    RunOutcome outcome = model.run(path);
+    RunOutcome outcome = run(path);
     switch (outcome.status) {
       case RunStatus::Unreadable:
         std::cerr << "No se pudo leer el fichero: " << path << "\n";
@@ -99,12 +107,23 @@ int main(int argc, char** argv) {
     std::cerr << "Modelo desconocido: " << options.model << " (vorel-report --list los enumera)\n";
     return 2;
   }
+  auto run = model->run;
+  if (!options.grafico.empty()) {
+    auto view = std::find_if(model->views.begin(), model->views.end(),
+                             [&](const CatalogueView& v) { return v.name == options.grafico; });
+    if (view == model->views.end()) {
+      std::cerr << "Gráfico desconocido: " << options.grafico
+                << " (vorel-report --help los enumera)\n";
+      return 2;
+    }
+    run = view->run;
+  }
   if (!options.pdf.empty()) cli::handOverPdf(argv);  // returns only where this program writes PDF
   const bool several = options.files.size() > 1;
   int status = 0;
   for (const std::string& path : options.files) {
     if (several) std::cout << "==> " << path << " <==\n" << std::flush;
-    status = std::max(status, solve(*model, path, options, several ? path + ": " : ""));
+    status = std::max(status, solve(run, path, options, several ? path + ": " : ""));
     std::cout.flush();
   }
   return status;

@@ -9,7 +9,8 @@ namespace vorel::cli {
 
 struct Options {
   bool list = false, help = false, print = false, chart = false;
-  std::string pdf;  // --pdf OUT
+  std::string pdf;      // --pdf OUT
+  std::string grafico;  // --grafico NAME: another chart of the model
   std::string model;
   std::vector<std::string> files;
   bool bad = false;  // an unknown option, or --pdf without its file

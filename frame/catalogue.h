@@ -13,14 +13,26 @@
 
 namespace vorel {
 
+// Another solution screen that a file run can report in place of the one
+// Resolver shows (vorel-report --grafico NAME): the control charts that open
+// from the means chart.
+struct CatalogueView {
+  std::string name, help;
+  std::function<RunOutcome(const std::string& path)> run;
+};
+
 struct CatalogueEntry {
-  std::string id;       // short, lower-case, ASCII: "cep"; its examples are examples/<id>/
-  std::string screen;   // the entry screen: "GI_CantidadEconómicaPedido"
+  std::string id;      // short, lower-case, ASCII: "cep"; its examples are examples/<id>/
+  std::string screen;  // the entry screen: "GI_CantidadEconómicaPedido"
   // Commands pressed before Resolver in a file run, by control name parted by
   // ", " ("EstPuras, EstMixtas"): --help lists them, the screen tests press them.
   std::string presses;
   std::function<RunOutcome(const std::string& path)> run;      // see runFromFile
   std::function<std::string(const std::string& path)> resave;  // see vorel::resave
+  // Where Resolver may show one of several charts: which one run() reports,
+  // and the others a file run can ask for.
+  std::string solutionHelp;
+  std::vector<CatalogueView> views;
   std::string helpPage() const { return nav::helpPage(screen); }
 };
 
@@ -30,11 +42,15 @@ template <class Fields>
 CatalogueEntry catalogued(std::string id, std::string screen, std::string presses,
                           void (*exchange)(ProblemFile&, Fields&), Messages (*check)(const Fields&),
                           Pages (*solveAndReport)(Fields&)) {
-  return {std::move(id), std::move(screen), std::move(presses),
-          [=](const std::string& path) {
-            return runFromFile<Fields>(path, exchange, check, solveAndReport);
-          },
-          [=](const std::string& path) { return resave<Fields>(path, exchange); }};
+  CatalogueEntry entry;
+  entry.id = std::move(id);
+  entry.screen = std::move(screen);
+  entry.presses = std::move(presses);
+  entry.run = [=](const std::string& path) {
+    return runFromFile<Fields>(path, exchange, check, solveAndReport);
+  };
+  entry.resave = [=](const std::string& path) { return resave<Fields>(path, exchange); };
+  return entry;
 }
 
 // Every model, in the order of app/models.def.

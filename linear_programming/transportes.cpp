@@ -257,14 +257,15 @@ void exchange(ProblemFile& file, TransportesFields& f) {
 // A degenerate first solution sends the screen back to the entry with its
 // message, after the checks: a file run goes through resolver().
 CatalogueEntry catalogueTransportes() {
-  return {"transporte", "PL_Transportes", "",
-          [](const std::string& path) -> RunOutcome {
-            TransportesFields fields;
-            if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))
-              return {RunStatus::Unreadable, {}, {}};
-            return resolver(fields, kCommandLineStepBudget);
-          },
-          [](const std::string& path) { return resave<TransportesFields>(path, exchange); }};
+  CatalogueEntry entry =
+      catalogued<TransportesFields>("transporte", "PL_Transportes", "", exchange, check, nullptr);
+  entry.run = [](const std::string& path) -> RunOutcome {
+    TransportesFields fields;
+    if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))
+      return {RunStatus::Unreadable, {}, {}};
+    return resolver(fields, kCommandLineStepBudget);
+  };
+  return entry;
 }
 
 }  // namespace vorel::linear_programming

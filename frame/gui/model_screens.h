@@ -127,6 +127,9 @@ public:
 
   ReportBox* Solucion1() const { return report_; }
   const Report& page() const { return page_; }
+  // What Imprimir prints from now on, where a command other than the
+  // activation computes again (Recalcular of the control charts).
+  void setPage(Report page) { page_ = std::move(page); }
 
   void formActivate() override;
   bool solving() const { return solving_; }

@@ -1,0 +1,106 @@
+// What the control charts of quality control share: one computation of a
+// chart (values, limits, centre line, plot bounds, the points outside), the
+// report and the printed page, and the removal that takes the samples outside
+// the limits out of the entry screen so that Recalcular can compute again.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "frame/model.h"
+
+namespace vorel::quality {
+
+inline constexpr int kMaxMuestras = 45;
+
+// The rows of a chart: For i = 0 To N - 1 with an Integer counter, N being
+// Val(Nmuestras); the bound is rounded to Integer.
+int rowCount(double N);
+
+// The text a number takes when it is stored into a text box: Str without the
+// leading blank.
+std::string boxText(double x);
+
+// One computation of a chart: the plotted value of each row, each row's
+// limits, the centre line and what follows from them.
+struct ControlPass {
+  std::vector<double> values;
+  std::vector<float> LSC, LIC;  // one per row; constant charts repeat them
+  float centre = 0;
+  float maximum = 0, minimum = 0;          // of the values, from 0 and from 100000000
+  float plotMaximum = 0, plotMinimum = 0;  // the limits widened by centre / 12
+  std::vector<int> outside;                // rows (from 0) strictly outside their limits
+  Chart chart;
+};
+
+// Completes a pass from its values and limits: negatives of the limits are
+// already 0. `series` names the values' column; with `singleMatrix` the
+// values are stored into the matrix as Single.
+ControlPass completePass(std::vector<double> values, std::vector<float> LSC, std::vector<float> LIC,
+                         float centre, const std::string& series, bool singleMatrix);
+
+// A limit below 0 is drawn and tested as 0.
+float notBelowZero(float limit);
+
+// The removal pass over the entry screen. For each row i of the pass, the
+// value read afresh from the entry being outside row i's limits and the
+// sample count differing from i, the rows from i on take the texts of the row
+// below (`shift(j)` copies row j + 1 into row j: the platform's error 9 past
+// the last row), i goes back one and the count falls by one. With
+// `keepFirst` row 0 is never taken out. True when a sample was taken out.
+// Rows past the lowered count are still visited: an empty one outside the
+// limits is taken out again and again, the count falling below zero until
+// the Integer bound of the shifting loop overflows (the platform's error 6).
+struct Removal {
+  std::string& Nmuestras;
+  std::function<double(int row)> value;
+  std::function<void(int row)> shift;
+  bool keepFirst = false;
+};
+bool removeOutside(const ControlPass& pass, const Removal& removal);
+
+// What a chart solution screen keeps between its commands: the value lines
+// that the page prints for the first pass and for the last Recalcular; the count
+// of points outside; the first pass's matrix, which the page draws; and
+// whether Recalcular is shown.
+struct ControlScreen {
+  bool recalculated = false;
+  Report firstValues, lastValues;
+  int outside = 0;
+  Chart chart;
+  bool Recalcular = false;
+};
+
+// What a computation paints and draws now.
+struct Painted {
+  Report report;
+  Chart chart;
+};
+
+// The activation of a chart screen, or its Recalcular: paints the report of
+// `pass` with its value lines `values` (the page's are `pageValues`), keeps
+// the screen's variables (the first pass's matrix for the page), and then
+// takes the samples outside out of the entry through `removal`. True in
+// `removed` when it took any.
+Painted runControl(ControlScreen& s, bool recalculation, const ControlPass& pass,
+                   const Report& values, const Report& pageValues, const std::string& title,
+                   const std::string& inControl, const Removal& removal, bool& removed);
+
+// The screen report: five blank lines, the heading with `title`, the value
+// lines, a blank line, then a line for each point outside or `inControl`.
+Report controlReport(const std::string& title, const Report& values, const ControlPass& pass,
+                     const std::string& inControl);
+
+// The printed page: the heading of the page, the title, a rule of `rule`
+// underscores, the value lines of the set chosen by `recalculated`, then
+// whether the process is in control (`notInControl` or `inControl`).
+Report controlPage(const std::string& heading, const std::string& title, int rule,
+                   const ControlScreen& screen, const std::string& notInControl,
+                   const std::string& inControl);
+
+// One line of values: Z label, `zones` zone steps, Str of the value, suffix.
+void valueLine(Report& r, const std::string& label, int zones, float value,
+               const std::string& suffix = {});
+
+}  // namespace vorel::quality

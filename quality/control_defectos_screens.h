@@ -1,0 +1,46 @@
+// The screens of control by number of defects: the entry ControlCal_NDef, the
+// c chart ControlCal_NDef_Sol and the u chart ControlCal_NDef_Sol1.
+#pragma once
+
+#include "quality/control_defectos.h"
+#include "quality/control_screens.h"
+
+namespace vorel::quality {
+
+class DefectosEntry : public gui::ModelEntry<DefectosFields> {
+  Q_OBJECT
+ public:
+  DefectosEntry();
+  DefectosFields fields() const override;
+  void setFields(const DefectosFields& f) override;
+
+ protected:
+  void nuevo(DefectosFields& f) override { quality::nuevo(f); }
+  void exchange(ProblemFile& file, DefectosFields& f) override { quality::exchange(file, f); }
+  Messages check(const DefectosFields& f) override { return quality::check(f); }
+  void resolver() override;
+
+ private:
+  QRadioButton *Option1_, *Option2_;
+  QLineEdit *Nmuestras_, *TMuestra_;
+  QLabel *Labelr_, *labelrn_;
+  SampleTable table_;  // K, r, N; heads Lblk, Lblr, Lbln
+};
+
+class DefectosSolution : public ControlSolution {
+  Q_OBJECT
+ public:
+  explicit DefectosSolution(bool variable);
+
+ protected:
+  Pages compute() override;
+  void recalcular() override;
+
+ private:
+  bool variable_;
+  ControlScreen screen_;
+};
+
+void registerDefectosScreens();
+
+}  // namespace vorel::quality

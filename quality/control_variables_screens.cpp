@@ -1,0 +1,196 @@
+#include "quality/control_variables_screens.h"
+
+#include "frame/arith.h"
+#include "frame/gui/picture_button.h"
+#include "frame/gui/table_screen.h"
+
+namespace vorel::quality {
+
+namespace {
+const std::string kEntry = "ControlCal_V";
+const char* const kSolutions[] = {"ControlCal_V_Sol", "ControlCal_V_Sol2", "ControlCal_V_Sol3"};
+}  // namespace
+
+VariablesEntry::VariablesEntry()
+    : ModelEntry(kEntry, "Control por Variables. Control de Medias.", {}, "Titulo1", "Problema1") {
+  auto* question = new QLabel("¿Qué desea obtener?:", this);
+  question->setStyleSheet("font-weight: 600; color: #4A5568;");
+  fieldGrid()->addWidget(question, 0, 0, 1, 3);
+  Option1_ = option(*this, "Option1", "Gráfico de Medias junto con Desviaciones Típicas");
+  Option2_ = option(*this, "Option2", "Gráfico de Medias junto con Recorridos");
+  Nmuestras_ = addField("Nmuestras", "Número de  muestras", "Numero de muestras");
+  Tmuestras_ = addField("Tmuestras", "Tamaño de las muestras", "Tamaño de esas muestras");
+  auto* reshape = gui::redesignButton(
+      *this,
+      [this] {
+        edit([](VariablesFields& f) {
+          rediseñar(f);
+          return Messages{};
+        });
+      },
+      "Rediseñar", "Rediseñar");
+  fieldGrid()->addWidget(reshape, gui::gridRow(fieldGrid(), Nmuestras_), 2, 2, 1);
+  fieldGrid()->setColumnStretch(3, 1);
+  for (auto [button, second] : {std::pair{Option1_, false}, std::pair{Option2_, true}})
+    connect(button, &QRadioButton::clicked, this, [this, second] {
+      edit([second](VariablesFields& f) {
+        optionClick(f, second);
+        return Messages{};
+      });
+    });
+  table_.create(*this, body(), "M", "S", "LblM", "Mk", "LblS", "Sk", "LblR", "Rk");
+  LblMkRk_ = legend(this, body(), table_.frame, "LblMkRk",
+                    "Mk: Medias muestrales    Rk: Recorridos medios muestrales");
+  LblMkSk_ = legend(this, body(), table_.frame, "LblMkSk",
+                    "Mk: Medias muestrales    Sk: Desviaciones típicas");
+  setFields(VariablesFields{});
+}
+
+void VariablesEntry::nuevo() {
+  ModelEntry::nuevo();
+  titleField()->setFocus();
+}
+
+VariablesFields VariablesEntry::fields() const {
+  VariablesFields f;
+  f.Titulo1 = titleField()->text().toStdString();
+  f.Option1 = Option1_->isChecked();
+  f.Option2 = Option2_->isChecked();
+  f.Nmuestras = Nmuestras_->text().toStdString();
+  f.Tmuestras = Tmuestras_->text().toStdString();
+  f.LblMkRk = !LblMkRk_->isHidden();
+  f.LblMkSk = !LblMkSk_->isHidden();
+  for (int i = 0; i < kMaxMuestras; ++i) {
+    const auto at = std::size_t(i);
+    f.K[at] = !table_.K(i)->isHidden();
+    f.M[at] = gui::readCell(table_.first(i));
+    f.S[at] = gui::readCell(table_.second(i));
+  }
+  readVisible(table_.Lblk, f.Lblk.data());
+  readVisible(table_.headFirst, f.LblM.data());
+  readVisible(table_.headSecond, f.LblS.data());
+  readVisible(table_.headOther, f.LblR.data());
+  return f;
+}
+
+void VariablesEntry::setFields(const VariablesFields& f) {
+  titleField()->setText(QString::fromStdString(f.Titulo1));
+  // Two options may be off together, as a file can leave them.
+  Option1_->setAutoExclusive(false);
+  Option2_->setAutoExclusive(false);
+  Option1_->setChecked(f.Option1);
+  Option2_->setChecked(f.Option2);
+  Option1_->setAutoExclusive(true);
+  Option2_->setAutoExclusive(true);
+  Nmuestras_->setText(QString::fromStdString(f.Nmuestras));
+  Tmuestras_->setText(QString::fromStdString(f.Tmuestras));
+  LblMkRk_->setVisible(f.LblMkRk);
+  LblMkSk_->setVisible(f.LblMkSk);
+  for (int i = 0; i < kMaxMuestras; ++i) {
+    const auto at = std::size_t(i);
+    table_.K(i)->setVisible(f.K[at]);
+    gui::writeCell(table_.first(i), f.M[at]);
+    gui::writeCell(table_.second(i), f.S[at]);
+  }
+  writeVisible(table_.Lblk, f.Lblk.data());
+  writeVisible(table_.headFirst, f.LblM.data());
+  writeVisible(table_.headSecond, f.LblS.data());
+  writeVisible(table_.headOther, f.LblR.data());
+  gui::fitToTable(*this);
+}
+
+VariablesSolution::VariablesSolution(Grafico g)
+    : ControlSolution(kSolutions[int(g)], g == Grafico::Medias ? "Gráfico de Medias"
+                                          : g == Grafico::Desviaciones
+                                              ? "Gráfico de Desviaciones Típicas"
+                                              : "Gráfico de Recorridos"),
+      g_(g) {
+  state_ = &screen_;
+  // Redibujar: on the means chart it shows a screen that was never set.
+  auto* redibujar = command(
+      "Redibujar", "cmd-resolver", "Redibujar",
+      [g] {
+        if (g == Grafico::Medias) vorel::raise(err::ObjectNotSet);
+      },
+      40);
+  placeCommand(redibujar);
+  if (g == Grafico::Medias) {
+    ControlDesviaciones_ = command(
+        "ControlDesviaciones", "cmd-forward", "Control de Desviaciones Típicas",
+        [this] {
+          gui::Screens::instance().hide(name());
+          gui::Screens::instance().show(kSolutions[1]);
+        },
+        40);
+    ControlRecorridos_ = command(
+        "ControlRecorridos", "cmd-forward", "Control de Recorridos",
+        [this] {
+          gui::Screens::instance().hide(name());
+          gui::Screens::instance().show(kSolutions[2]);
+        },
+        40);
+    placeCommand(ControlRecorridos_);
+    placeCommand(ControlDesviaciones_);
+    // volver hides both before going back to the entry.
+    if (auto* volver = findChild<QAbstractButton*>("volver"))
+      connect(volver, &QAbstractButton::clicked, this, [this] {
+        setShown(ControlDesviaciones_, false);
+        setShown(ControlRecorridos_, false);
+      });
+  }
+}
+
+void VariablesSolution::showButtons() {
+  showCommands();
+  if (ControlDesviaciones_) {
+    setShown(ControlDesviaciones_, screen_.ControlDesviaciones);
+    setShown(ControlRecorridos_, screen_.ControlRecorridos);
+  }
+}
+
+Pages VariablesSolution::compute() {
+  auto& entrada = *dynamic_cast<VariablesEntry*>(gui::Screens::instance().load(kEntry));
+  VariablesFields f = entrada.fields();
+  const std::string title = selecVanTitulo1();
+  Painted painted;
+  try {
+    painted = activate(g_, f, screen_, title);
+  } catch (...) {
+    entrada.setFields(f);  // the samples taken out before the error stay out
+    throw;
+  }
+  entrada.setFields(f);
+  showButtons();
+  return {painted.report, printout(g_, f, screen_), painted.chart};
+}
+
+void VariablesSolution::recalcular() {
+  auto& entrada = *dynamic_cast<VariablesEntry*>(gui::Screens::instance().load(kEntry));
+  VariablesFields f = entrada.fields();
+  Painted painted;
+  try {
+    painted = quality::recalcular(g_, f, screen_, selecVanTitulo1());
+  } catch (...) {
+    entrada.setFields(f);
+    throw;
+  }
+  entrada.setFields(f);
+  show(painted, printout(g_, f, screen_));
+  showButtons();
+}
+
+void VariablesSolution::imprimir() {
+  // The charts of deviations and ranges call on a printer dialog that was never set.
+  if (g_ != Grafico::Medias) vorel::raise(err::ObjectNotSet);
+  ChartSolutionScreen::imprimir();
+}
+
+void registerVariablesScreens() {
+  gui::Screens& screens = gui::Screens::instance();
+  screens.add(kEntry, [] { return new VariablesEntry(); });
+  screens.add(kSolutions[0], [] { return new VariablesSolution(Grafico::Medias); });
+  screens.add(kSolutions[1], [] { return new VariablesSolution(Grafico::Desviaciones); });
+  screens.add(kSolutions[2], [] { return new VariablesSolution(Grafico::Recorridos); });
+}
+
+}  // namespace vorel::quality
