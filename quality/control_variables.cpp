@@ -275,17 +275,20 @@ CatalogueEntry catalogueVariables() {
       "control-variables", "ControlCal_V", "", exchange, check,
       [](VariablesFields& f) { return solveAndReport(f, Grafico::Medias); });
   entry.solutionHelp = "el gráfico de medias (ControlCal_V_Sol)";
-  auto view = [](Grafico g) {
-    return [g](const std::string& path) {
-      return runFromFile<VariablesFields>(path, exchange, check,
-                                          [g](VariablesFields& f) { return solveAndReport(f, g); });
-    };
-  };
   entry.views = {
-      {"desviaciones", "el de desviaciones típicas (ControlCal_V_Sol2), abierto desde el de medias",
-       view(Grafico::Desviaciones)},
+      {"desviaciones",
+       "el de desviaciones típicas (ControlCal_V_Sol2), abierto desde el de medias",
+       [](const std::string& path) {
+         return runFromFile<VariablesFields>(path, exchange, check, [](VariablesFields& f) {
+           return solveAndReport(f, Grafico::Desviaciones);
+         });
+       }},
       {"recorridos", "el de recorridos (ControlCal_V_Sol3), abierto desde el de medias",
-       view(Grafico::Recorridos)},
+       [](const std::string& path) {
+         return runFromFile<VariablesFields>(path, exchange, check, [](VariablesFields& f) {
+           return solveAndReport(f, Grafico::Recorridos);
+         });
+       }},
   };
   return entry;
 }

@@ -110,6 +110,8 @@ TEST(CommandLine, SolvesManyFilesWithOptionsAnywhere) {
             std::string::npos);
   EXPECT_EQ(transcript("cep").substr(0, 21), "[salida 2]\nUso: vorel");
   EXPECT_EQ(transcript("cep " + book + " --pdf").substr(0, 21), "[salida 2]\nUso: vorel");
+  EXPECT_EQ(transcript("cep " + book + " --grafico medias"),
+            "[salida 2]\nGráfico desconocido: medias (vorel-report --help los enumera)\n");
 }
 
 TEST(CommandLine, WritesThePrintedPageAsPdf) {
