@@ -3,12 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <set>
 
 #include "frame/catalogue.h"
+#include "frame/gui/help_window.h"
 #include "frame/gui/model_screens.h"
+#include "frame/gui/session.h"
 #include "frame/navigation.h"
 #include "tests/gui_support.h"
+#include "tests/test_support.h"
 
 namespace vorel::testing {
 namespace {
@@ -58,6 +63,34 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
       if (pictured.size() == info.solutions.size()) break;
     }
   }
+}
+
+// The desktop's own windows: abrir over a folder holding a problem saved under
+// its default name, the printer dialog (both in Spanish) and the help window.
+TEST_F(Screenshots, DISABLED_DialogsAndHelp) {
+  const QString dir = qEnvironmentVariable("VOREL_SCREENSHOTS", "screenshots");
+  QDir().mkpath(dir);
+  gui::loadSpanishDialogs(*qApp);
+  const QString folder = QString::fromStdString(tempPath("problemas"));
+  QDir().mkpath(folder);
+  for (const char* name : {"Problema1", "Problema2.txt"})
+    writeBytes((folder + "/" + name).toStdString(), "\"Problema1\"\r\n");
+  auto open = gui::fileDialog(QFileDialog::AcceptOpen, gui::kOpenFilter, 2);
+  open->setOption(QFileDialog::DontUseNativeDialog);
+  open->setDirectory(folder);
+  open->show();
+  wait(600);
+  open->grab().save(QDir(dir).filePath("dialogo-abrir.png"));
+  QPrinter printer;
+  QPrintDialog print(&printer);
+  print.show();
+  wait(300);
+  print.grab().save(QDir(dir).filePath("dialogo-imprimir.png"));
+  gui::HelpWindow& help = gui::HelpWindow::instance();
+  help.showPage(QCoreApplication::applicationDirPath() + "/../ayuda/GI_CantidadEconomicaPedido.html");
+  wait(300);
+  help.grab().save(QDir(dir).filePath("ayuda.png"));
+  help.hide();
 }
 
 }  // namespace
