@@ -75,7 +75,7 @@ int solve(const std::function<RunOutcome(const std::string&)>& run, const std::s
     std::cout << renderText(options.print ? outcome.pages.page : outcome.pages.screen);
     return 0;
   } catch (const DoesNotEnd&) {
-    std::cerr << origin << "El método no termina: se detuvo tras " << kCommandLineStepBudget
+    std::cerr << origin << "El método no termina: se detuvo tras " << fileRunStepBudget()
               << " pasos.\n";
     return 4;
   } catch (const std::exception& e) {

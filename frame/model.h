@@ -48,6 +48,12 @@ enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError
 // command-line program does, and exits with status 4.
 struct DoesNotEnd {};
 inline constexpr long kCommandLineStepBudget = 1'000'000;
+// The budget a file run gives: kCommandLineStepBudget, unless a caller (the
+// fuzzer, which runs many files) sets a smaller one.
+inline long& fileRunStepBudget() {
+  static long budget = kCommandLineStepBudget;
+  return budget;
+}
 
 struct RunOutcome {
   RunStatus status = RunStatus::Solved;

@@ -7,13 +7,27 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 
 namespace {
+
+// With VOREL_FUZZ_COUNTS set, the executions of each model are told at exit.
+struct Counts {
+  std::vector<std::string> ids;
+  std::vector<long> runs;
+  ~Counts() {
+    if (!std::getenv("VOREL_FUZZ_COUNTS")) return;
+    for (std::size_t i = 0; i < runs.size(); ++i)
+      std::fprintf(stderr, "model %s: %ld\n", ids[i].c_str(), runs[i]);
+  }
+} counts;
 
 const std::string& scratchFile() {
   static const std::string path = "/dev/shm/vorel-fuzz-" + std::to_string(getpid()) + ".txt";
@@ -26,7 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace vorel;
   if (size == 0) return 0;
   const auto& models = catalogue();
-  const CatalogueEntry& model = models[data[0] % models.size()];
+  const std::size_t pick = data[0] % models.size();
+  const CatalogueEntry& model = models[pick];
+  if (counts.runs.empty()) {
+    for (const CatalogueEntry& m : models) counts.ids.push_back(m.id);
+    counts.runs.resize(models.size());
+    fileRunStepBudget() = 20'000;  // a cycling method is found as surely, and sooner
+  }
+  ++counts.runs[pick];
   {
     std::ofstream out(scratchFile(), std::ios::binary | std::ios::trunc);
     out.write(reinterpret_cast<const char*>(data) + 1, static_cast<std::streamsize>(size - 1));

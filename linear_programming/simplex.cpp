@@ -454,7 +454,7 @@ void exchange(ProblemFile& file, SimplexFields& f) {
 CatalogueEntry catalogueSimplex() {
   return catalogued<SimplexFields>(
       "simplex", "PL_Simplex", "", exchange, check,
-      [](SimplexFields& f) { return solveAndReport(f, kCommandLineStepBudget); });
+      [](SimplexFields& f) { return solveAndReport(f, fileRunStepBudget()); });
 }
 
 }  // namespace vorel::linear_programming

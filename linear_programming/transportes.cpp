@@ -263,7 +263,7 @@ CatalogueEntry catalogueTransportes() {
     TransportesFields fields;
     if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))
       return {RunStatus::Unreadable, {}, {}};
-    return resolver(fields, kCommandLineStepBudget);
+    return resolver(fields, fileRunStepBudget());
   };
   return entry;
 }

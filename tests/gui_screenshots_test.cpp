@@ -49,6 +49,7 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
       platform.openAnswers.push_back(examples.filePath(file));
       press(info.name, "abrir");
       platform.messages.clear();
+      platform.runtimeErrors.clear();
       for (const QString& command :
            QString::fromStdString(model->presses).split(", ", Qt::SkipEmptyParts))
         press(info.name, command);
