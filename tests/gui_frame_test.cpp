@@ -57,13 +57,18 @@ class ScreenWalk : public ScreenTest {
  protected:
   using Path = std::vector<std::pair<std::string, QString>>;  // (screen, picture) pressed
 
-  std::string shownNames() {
+  // The loaded screens on view, by name (widgets of earlier tests awaiting deletion aside).
+  std::vector<std::string> shown() {
     std::vector<std::string> names;
     for (QWidget* w : QApplication::topLevelWidgets())
-      if (auto* s = dynamic_cast<gui::Screen*>(w); s && s->isVisible()) names.push_back(s->name());
+      if (auto* s = dynamic_cast<gui::Screen*>(w); s && s->isVisible() && screen(s->name()) == s)
+        names.push_back(s->name());
     std::sort(names.begin(), names.end());
+    return names;
+  }
+  std::string shownNames() {
     std::string out;
-    for (const std::string& n : names) out += (out.empty() ? "" : ", ") + n;
+    for (const std::string& n : shown()) out += (out.empty() ? "" : ", ") + n;
     return out.empty() ? "(nada)" : out;
   }
   // A fresh run that reaches a screen: through the menus, or shown on its own.
@@ -139,18 +144,16 @@ TEST_F(ScreenWalk, EveryScreenAsTheStudentMeetsIt) {
         out += "no disponible\n";
         continue;
       }
-      std::set<std::string> before;
-      for (QWidget* w : QApplication::topLevelWidgets())
-        if (auto* s = dynamic_cast<gui::Screen*>(w); s && s->isVisible()) before.insert(s->name());
+      const std::vector<std::string> before = shown();
       press(name, picture);
       out += shownNames() + "\n";
-      for (QWidget* w : QApplication::topLevelWidgets())
-        if (auto* s = dynamic_cast<gui::Screen*>(w);
-            s && s->isVisible() && !before.contains(s->name()) && !described.contains(s->name())) {
+      for (const std::string& now : shown())
+        if (std::find(before.begin(), before.end(), now) == before.end() &&
+            !described.contains(now)) {
           Path next = path;
           next.emplace_back(name, picture);
-          opened.emplace_back(s->name(), next);
-          described.insert(s->name());
+          opened.emplace_back(now, next);
+          described.insert(now);
         }
     }
     for (const auto& [next, nextPath] : opened) walk(next, nextPath);
