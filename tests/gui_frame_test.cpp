@@ -169,19 +169,6 @@ TEST_F(ScreenWalk, EveryScreenAsTheStudentMeetsIt) {
   EXPECT_EQ(out, readBytes(golden));
 }
 
-TEST_F(FrameTest, ChoicesOfModelsNotBuiltStayDisabled) {
-  screens().show("ProgramaciónLineal");
-  for (const nav::MenuChoice& c : nav::findMenu("ProgramaciónLineal")->choices) {
-    auto* picture = screen("ProgramaciónLineal")
-                        ->findChild<QAbstractButton*>(QString::fromStdString(c.picture));
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->isEnabled(), screens().available(c.target)) << c.target;
-  }
-  screens().show("GI_DemandaIndependiente");
-  EXPECT_TRUE(
-      screen("GI_DemandaIndependiente")->findChild<QAbstractButton*>("Image3")->isEnabled());
-}
-
 TEST_F(FrameTest, GohomeAndVolverOnlyHideSoNothingIsLost) {
   screens().show("GI_CantidadEconómicaPedido");
   type("GI_CantidadEconómicaPedido", "D", "1234");
