@@ -89,18 +89,6 @@ Textbook pollaczek(double lambda, double mu, double sigma) {
   return t;
 }
 
-TEST(Colas, MM1GivesTheTextbookFiguresAsStrPrintsThem) {
-  const ColasResults r = resolver(cola(I, 0, "1", "2", "3"));
-  EXPECT_EQ(r.Tipo, 1);
-  EXPECT_EQ(Str(r.ro), " .6666667");
-  EXPECT_EQ(Str(r.L), " 2");
-  EXPECT_EQ(Str(r.Lq), " 1.333333");
-  EXPECT_EQ(Str(r.W), " 1");
-  EXPECT_EQ(Str(r.Wq), " .6666667");
-  EXPECT_EQ(r.Probabilidades[0], " .3333333");
-  EXPECT_EQ(r.Probabilidades[1], " .2222222");
-}
-
 TEST(Colas, EveryModelAgreesWithItsClosedForm) {
   const std::pair<ColasFields, Textbook> cases[] = {
       // clang-format off

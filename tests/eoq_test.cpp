@@ -77,6 +77,19 @@ TEST(Eoq, UpperBoundsAndExponentFormAreAccepted) {
   EXPECT_EQ(Str(solve(f).Pp), Str(Sng(999.0 * 1000 / 365)));
 }
 
+// A tiny holding cost passes the checks, but Q no longer fits a Single.
+TEST(Eoq, AQuantityBeyondSingleIsAnOverflow) {
+  EoqFields f = textbook();
+  f.A = "1e-300";
+  ASSERT_TRUE(check(f).empty());
+  try {
+    solve(f);
+    ADD_FAILURE() << "no overflow";
+  } catch (const RuntimeError& e) {
+    EXPECT_EQ(e.number(), err::Overflow);
+  }
+}
+
 TEST(Eoq, DecimalCommaIsNumericButValReadsTheWholePart) {
   setLocaleDecimalMark(',');
   EoqFields f = textbook();

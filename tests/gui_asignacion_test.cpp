@@ -73,12 +73,11 @@ TEST_F(AsignacionScreens, TheEntryLoadsWithATwoByTwoTable) {
   EXPECT_TRUE(visible("ProgramaciónLineal"));
 }
 
-// One message per bad cell in reading order, each column in its own
-// wording, the focus ending on the last bad cell; hidden cells are not read.
+// Every message reaches the box, the focus ending on the last bad cell, and
+// only the table's visible cells are read (the wordings: the core suite).
 TEST_F(AsignacionScreens, EveryBadCellIsToldInItsColumnsWording) {
   const std::string completar = "Debe completar la tabla de costes de Asignación";
-  const std::string minuscula = "Debe completar la tabla de costes de asignación";
-  const std::string espacio = minuscula + " ";
+  const std::string espacio = "Debe completar la tabla de costes de asignación ";
   const std::string rango =
       "El valor de los costes de asignación no es correcto, debe introducir un valor "
       "comprendido entre 0 y 999999999";
@@ -87,14 +86,8 @@ TEST_F(AsignacionScreens, EveryBadCellIsToldInItsColumnsWording) {
     std::vector<std::string> messages;
     const char* focus;
   } cases[] = {
-      {{{"C5(6)", ""}}, {completar}, "C5(6)"},
-      {{{"C7(1)", "x"}, {"C6(0)", "-"}}, {minuscula, espacio}, "C7(1)"},
-      {{{"C6(3)", "1e9"}, {"C1(4)", "-1000000000"}}, {rango, rango}, "C1(4)"},
       {{{"C2(0)", ""}, {"C7(0)", "y"}, {"C3(2)", "2e9"}}, {completar, espacio, rango}, "C3(2)"},
-      // The limits themselves, negatives and a hidden row draw nothing.
-      {{{"C1(0)", "-999999999"}, {"C2(0)", "999999999"}, {"C8(0)", "x"}, {"C1(7)", "x"}},
-       {},
-       "Título"},
+      {{{"C8(0)", "x"}, {"C1(7)", "x"}}, {}, "Título"},  // hidden cells
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.focus);
@@ -135,8 +128,6 @@ TEST_F(AsignacionScreens, BrowsingThreeSolutionsPageByPage) {
     for (int k = 1; k <= 3; ++k)
       EXPECT_EQ(text.find("SOLUCIÓN " + std::to_string(k)) != std::string::npos, k == s.solution)
           << k;
-    EXPECT_NE(text.find("Número de soluciones:        3"), std::string::npos);
-    EXPECT_NE(text.find("Coste Total:                 12 unidades monetarias"), std::string::npos);
     EXPECT_EQ(visibleButtons(), s.buttons);
     if (!pages.count(s.solution)) pages[s.solution] = text;
     EXPECT_EQ(text, pages[s.solution]);

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QTimer>
+#include <set>
 
 #include "frame/catalogue.h"
 #include "frame/gui/chart_screen.h"
@@ -21,6 +22,10 @@ namespace {
 using ExamplesOnScreen = ScreenTest;
 
 bool startsWith(const std::string& s, const char* prefix) { return s.rfind(prefix, 0) == 0; }
+
+// The entry screens that stay visible behind their solution; every other one gives way to it.
+const std::set<std::string> kEntriesThatStay = {"GI_MRP", "Localizacion_CG", "Selec_Pond",
+                                                "Selec_Van"};
 
 TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
   int models = 0;
@@ -78,7 +83,7 @@ TEST_F(ExamplesOnScreen, SolveAsOnTheCommandLine) {
         for (const std::string& s : entry->solutions)
           if (visible(s)) shownSolution = &s;
         ASSERT_NE(shownSolution, nullptr);
-        EXPECT_EQ(visible(model.screen), entry->resolverStays);
+        EXPECT_EQ(visible(model.screen), kEntriesThatStay.contains(model.screen));
         EXPECT_EQ(painted(*shownSolution), report);
         auto* solution = dynamic_cast<gui::SolutionScreen*>(screen(*shownSolution));
         EXPECT_EQ(renderText(solution->page()), golden(model.id, file, "page"));

@@ -3,15 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QTest>
+#include <algorithm>
+#include <functional>
+#include <set>
 
+#include "frame/gui/help_window.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/model_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/navigation.h"
-#include "frame/gui/help_window.h"
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
@@ -29,8 +33,8 @@ bool hasLabel(gui::Screen* s, const QString& text) {
 TEST_F(FrameTest, StartScreenGivesWayToTheMainMenuAfterTwoSeconds) {
   screens().show("AInicio");
   gui::Screen* start = screen("AInicio");
-  for (const char* label : {"Vorel", "Aula de Gestión Productiva", "Versión 1.1 (2004)",
-                            "Elaborado por:"})
+  for (const char* label :
+       {"Vorel", "Aula de Gestión Productiva", "Versión 1.1 (2004)", "Elaborado por:"})
     EXPECT_TRUE(hasLabel(start, label)) << label;
   auto* timer = static_cast<gui::StartScreen*>(start)->Temporizador;
   EXPECT_EQ(timer->interval(), 2000);
@@ -45,69 +49,124 @@ TEST_F(FrameTest, StartScreenGivesWayToTheMainMenuAfterTwoSeconds) {
   EXPECT_EQ(screen("APrincipal")->windowTitle(), "Vorel");
 }
 
-TEST_F(FrameTest, EveryMenuChoiceOpensItsTargetAndHidesTheMenu) {
-  for (const nav::MenuInfo& menu : nav::menus()) {
-    for (const nav::MenuChoice& choice : menu.choices) {
-      if (choice.target.empty() || !screens().available(choice.target)) continue;
-      SCOPED_TRACE(menu.name + " " + choice.picture + " -> " + choice.target);
-      screens().reset();
-      screens().show(menu.name);
-      gui::Screen* m = screen(menu.name);
-      EXPECT_TRUE(hasLabel(m, QString::fromStdString(choice.label)));
-      press(menu.name, QString::fromStdString(choice.picture));
-      EXPECT_TRUE(visible(choice.target));
-      EXPECT_EQ(visible(menu.name), choice.hides != menu.name);
-      EXPECT_FALSE(visible(choice.hides));
+// What the student meets on every screen, written out: the menus walked picture by picture
+// from the main menu, each screen they open with its caption, heading and window commands, and
+// where volver and cerrar land; then every screen no picture opens, shown on its own. The text
+// is compared with tests/golden/frame/pantallas.txt (VOREL_UPDATE_GOLDEN=1 writes it anew).
+class ScreenWalk : public ScreenTest {
+ protected:
+  using Path = std::vector<std::pair<std::string, QString>>;  // (screen, picture) pressed
+
+  // The loaded screens on view, by name (widgets of earlier tests awaiting deletion aside).
+  std::vector<std::string> shown() {
+    std::vector<std::string> names;
+    for (QWidget* w : QApplication::topLevelWidgets())
+      if (auto* s = dynamic_cast<gui::Screen*>(w); s && s->isVisible() && screen(s->name()) == s)
+        names.push_back(s->name());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+  std::string shownNames() {
+    std::string out;
+    for (const std::string& n : shown()) out += (out.empty() ? "" : ", ") + n;
+    return out.empty() ? "(nada)" : out;
+  }
+  // A fresh run that reaches a screen: through the menus, or shown on its own.
+  void reach(const Path& path, const std::string& alone) {
+    screens().reset();
+    platform.ended = false;
+    if (!alone.empty()) {
+      screens().show(alone);
+      return;
     }
+    screens().show("APrincipal");
+    for (const auto& [name, picture] : path) press(name, picture);
   }
-}
-
-TEST_F(FrameTest, MenusShowTheirCaptionsIntroAndLabels) {
-  for (const nav::MenuInfo& menu : nav::menus()) {
-    SCOPED_TRACE(menu.name);
-    screens().show(menu.name);
-    gui::Screen* m = screen(menu.name);
-    EXPECT_EQ(m->windowTitle().toStdString(), nav::findScreen(menu.name)->caption);
-    if (!menu.intro.empty()) {
-      EXPECT_TRUE(hasLabel(m, QString::fromStdString(menu.intro)));
+  std::string describe(const std::string& name, const Path& path, const std::string& alone) {
+    reach(path, alone);
+    gui::Screen* s = screen(name);
+    if (s == nullptr) return "[" + name + "] no se carga\n";
+    std::string out = "[" + name + "] «" + s->windowTitle().toStdString() + "»";
+    if (auto* heading = s->findChild<QLabel*>("heading"); heading && !heading->text().isEmpty())
+      out += " encabezado «" + heading->text().toStdString() + "»";
+    out += "\n  mandos:";
+    QStringList tips;
+    std::vector<std::pair<QString, QString>> commands;  // (tip, control)
+    for (auto* b : s->findChild<QWidget*>("band")->findChildren<QAbstractButton*>()) {
+      tips << b->toolTip();
+      commands.emplace_back(b->toolTip(), b->objectName());
     }
+    out += " " + tips.join(", ").toStdString() + "\n";
+    for (const auto& [tip, control] : commands) {
+      if (tip != "Volver" && tip != "Cerrar") continue;
+      reach(path, alone);
+      press(name, control);
+      out += "  " + tip.toLower().toStdString() + ": ";
+      if (tip == "Volver")
+        out += shownNames() + "\n";
+      else
+        out += platform.ended            ? "termina el programa\n"
+               : screen(name) == nullptr ? "se descarga\n"
+                                         : "sigue cargada\n";
+    }
+    return out;
   }
-}
+};
 
-TEST_F(FrameTest, ChoicesOfModelsNotBuiltStayDisabled) {
-  screens().show("ProgramaciónLineal");
-  for (const nav::MenuChoice& c : nav::findMenu("ProgramaciónLineal")->choices) {
-    auto* picture = screen("ProgramaciónLineal")->findChild<QAbstractButton*>(
-        QString::fromStdString(c.picture));
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->isEnabled(), screens().available(c.target)) << c.target;
-  }
-  screens().show("GI_DemandaIndependiente");
-  EXPECT_TRUE(screen("GI_DemandaIndependiente")->findChild<QAbstractButton*>("Image3")->isEnabled());
-}
-
-TEST_F(FrameTest, KeptMenuQuirks) {
-  // The multi-criteria menu keeps its odd caption.
-  screens().show("DecisionMulticriterio");
-  EXPECT_EQ(screen("DecisionMulticriterio")->windowTitle(),
-            "Teoría de Colas. Este tipo de problemas proporcionan información crucial ");
-  // The strip of the games menu hides the menu and shows nothing.
-  screens().reset();
-  screens().show("Juegos");
-  press("Juegos", "Image7");
-  EXPECT_FALSE(visible("Juegos"));
-  int shown = 0;
-  for (QWidget* w : QApplication::topLevelWidgets()) shown += w->isVisible();
-  EXPECT_EQ(shown, 0);
-}
-
-TEST_F(FrameTest, RupturaChoiceHidesTheInventoryMenuInsteadOfItself) {
-  const nav::MenuChoice* ruptura = nullptr;
-  for (const auto& c : nav::findMenu("GI_DemandaIndependiente")->choices)
-    if (c.picture == "Image8") ruptura = &c;
-  ASSERT_NE(ruptura, nullptr);
-  EXPECT_EQ(ruptura->target, "GI_CEPRuptura");
-  EXPECT_EQ(ruptura->hides, "GestiónDeInventarios");
+TEST_F(ScreenWalk, EveryScreenAsTheStudentMeetsIt) {
+  std::string out;
+  std::set<std::string> described;
+  std::function<void(const std::string&, const Path&)> walk = [&](const std::string& name,
+                                                                  const Path& path) {
+    described.insert(name);
+    out += describe(name, path, {});
+    const nav::MenuInfo* menu = nav::findMenu(name);
+    if (menu == nullptr) return;
+    reach(path, {});
+    if (!menu->intro.empty())
+      out += "  texto: " + screen(name)->findChild<QLabel*>("Label1")->text().toStdString() + "\n";
+    std::vector<std::pair<std::string, Path>> opened;
+    for (const nav::MenuChoice& choice : menu->choices) {
+      const QString picture = QString::fromStdString(choice.picture);
+      reach(path, {});
+      auto* button = control<QAbstractButton>(name, picture);
+      std::string label;
+      for (auto* grid : screen(name)->findChildren<QGridLayout*>())
+        for (int i = 0; i < grid->count(); ++i)
+          if (grid->itemAt(i)->widget() == button) {
+            int row, column, rows, columns;
+            grid->getItemPosition(i, &row, &column, &rows, &columns);
+            if (auto* l = qobject_cast<QLabel*>(grid->itemAtPosition(row, column + 1)->widget()))
+              label = l->text().toStdString();
+          }
+      out += "  " + choice.picture + " «" + label + "»: ";
+      if (!button->isEnabled()) {
+        out += "no disponible\n";
+        continue;
+      }
+      const std::vector<std::string> before = shown();
+      press(name, picture);
+      out += shownNames() + "\n";
+      for (const std::string& now : shown())
+        if (std::find(before.begin(), before.end(), now) == before.end() &&
+            !described.contains(now)) {
+          Path next = path;
+          next.emplace_back(name, picture);
+          opened.emplace_back(now, next);
+          described.insert(now);
+        }
+    }
+    for (const auto& [next, nextPath] : opened) walk(next, nextPath);
+  };
+  walk("APrincipal", {});
+  out += "\nSin menú que las abra:\n";
+  for (const nav::ScreenInfo& s : nav::screens())
+    if (!described.contains(s.name))
+      out += screens().available(s.name) ? describe(s.name, {}, s.name)
+                                         : "[" + s.name + "] no disponible\n";
+  const std::string golden = std::string(VOREL_SOURCE_DIR) + "/tests/golden/frame/pantallas.txt";
+  if (qEnvironmentVariableIsSet("VOREL_UPDATE_GOLDEN")) writeBytes(golden, out);
+  EXPECT_EQ(out, readBytes(golden));
 }
 
 TEST_F(FrameTest, GohomeAndVolverOnlyHideSoNothingIsLost) {
@@ -154,26 +213,14 @@ TEST_F(FrameTest, TheProcessLivesWhileAnyScreenIsLoaded) {
   screens().onNoScreenLoaded = nullptr;
 }
 
-TEST_F(FrameTest, CerrarEndsTheProcessOnTheEndGroup) {
-  for (const nav::ScreenInfo& s : nav::screens()) {
-    if (s.cerrar != nav::Cerrar::EndProcess || !screens().available(s.name)) continue;
-    platform.ended = false;
-    screens().show(s.name);
-    press(s.name, "cerrar");
-    EXPECT_TRUE(platform.ended) << s.name;
-  }
-  platform.ended = false;
-  screens().show("ControlCal");
-  press("ControlCal", "cerrar");
-  EXPECT_TRUE(platform.ended);
-}
-
 TEST_F(FrameTest, ChromeCarriesItsToolTips) {
   screens().show("GI_CantidadEconómicaPedido");
-  struct Case { const char* control; const char* tip; } cases[] = {
-      {"minimizar", "Minimizar"}, {"cerrar", "Cerrar"}, {"gohome", "Pantalla de Inicio"},
-      {"ayuda", "Ayuda"},         {"volver", "Volver"}, {"nuevo", "Nuevo"},
-      {"abrir", "Abrir"},         {"guardar", "Guardar"}, {"Resolver", "Resolver"}};
+  struct Case {
+    const char* control;
+    const char* tip;
+  } cases[] = {{"minimizar", "Minimizar"}, {"cerrar", "Cerrar"},   {"gohome", "Pantalla de Inicio"},
+               {"ayuda", "Ayuda"},         {"volver", "Volver"},   {"nuevo", "Nuevo"},
+               {"abrir", "Abrir"},         {"guardar", "Guardar"}, {"Resolver", "Resolver"}};
   for (const auto& c : cases) {
     auto* b = screen("GI_CantidadEconómicaPedido")->findChild<QAbstractButton*>(c.control);
     ASSERT_NE(b, nullptr) << c.control;

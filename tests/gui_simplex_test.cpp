@@ -102,27 +102,21 @@ TEST_F(SimplexScreens, ForwardAndBackBrowseTheTwoOptima) {
   EXPECT_EQ(control<QAbstractButton>(kSolution, "forward")->toolTip(), "Solución 2");
   EXPECT_EQ(control<QAbstractButton>(kSolution, "back")->toolTip(), "Solución 1");
 
-  press(kSolution, "forward");  // the solution saved at the first optimum
-  const std::string second = report();
-  EXPECT_NE(second.find("SOLUCIÓN 2 "), std::string::npos);
-  EXPECT_NE(second.find("5<=1X1+2X2"), std::string::npos);  // right-hand side first
-  EXPECT_EQ(second.find("SOLUCIÓN 1"), std::string::npos);
-  EXPECT_NE(second.find("Z =  10"), std::string::npos);
+  // The pages themselves: the core suite.
+  press(kSolution, "forward");
+  EXPECT_NE(report().find("SOLUCIÓN 2 "), std::string::npos);
+  EXPECT_EQ(report().find("SOLUCIÓN 1"), std::string::npos);
   EXPECT_EQ(enabled(), (std::set<std::string>{"back", "Imprimir", "cerrar"}));
 
-  press(kSolution, "back");  // rebuilt, so written as the second one is
-  const std::string first = report();
-  EXPECT_NE(first.find("SOLUCIÓN 1 "), std::string::npos);
-  EXPECT_NE(first.find("5<=1X1+2X2"), std::string::npos);
-  EXPECT_NE(first.find("X1:  3"), std::string::npos);
-  EXPECT_NE(first.find("Z =  10"), std::string::npos);
+  press(kSolution, "back");
+  EXPECT_NE(report().find("SOLUCIÓN 1 "), std::string::npos);
   EXPECT_EQ(enabled(), (std::set<std::string>{"forward", "volver", "Imprimir", "cerrar"}));
 }
 
-// Only the visible objective cells are checked, each bad one told with the
-// focus moving to it; constraint cells are never looked at, blanks there are 0.
+// Each bad objective cell is told, the focus ending on the last; the table's
+// shape decides which cells the core reads, and blank constraint cells are 0
+// (the messages and their order: the core suite).
 TEST_F(SimplexScreens, ResolverChecksTheObjectiveRowOnly) {
-  const std::string range = "Debe introducir valores comprendidos entre -999999999 y 999999999";
   struct Case {
     int variables;
     std::vector<QString> objective;
@@ -134,8 +128,6 @@ TEST_F(SimplexScreens, ResolverChecksTheObjectiveRowOnly) {
        {"1", "2", "3", "4", "", "6", "siete"},
        {"debe completar la tabla", "debe completar la tabla"},
        "X7(0)"},
-      {2, {"-1e9", "3"}, {range}, "X1(0)"},
-      {3, {"2", "1000000000", ""}, {range, "Debe completar la tabla"}, "X3(0)"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.focus);

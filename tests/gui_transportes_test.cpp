@@ -126,7 +126,6 @@ TEST_F(TransportesScreens, ADegenerateFirstSolutionGoesBackToTheEntry) {
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_TRUE(visible(kSolution));
   EXPECT_FALSE(visible(kEntry));
-  EXPECT_NE(painted(kSolution).find(" 26 unidades monetarias"), std::string::npos);
 
   // Back on the entry, degenerate again: the solution screen gives way.
   press(kSolution, "volver");
