@@ -5,7 +5,7 @@
 
 namespace vorel::inventory {
 
-void registerScreens() {
+void registerEoqScreens() {
   gui::Screens& screens = gui::Screens::instance();
   screens.add("GI_CantidadEconómicaPedido", [] {
     using Entry = PedidoEntry<EoqFields>;

@@ -4,6 +4,6 @@
 
 namespace vorel::inventory {
 
-void registerScreens();
+void registerEoqScreens();
 
 }  // namespace vorel::inventory
