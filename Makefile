@@ -33,8 +33,8 @@ fuzz: configure
 	@cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
 	  -DVOREL_GUI=OFF -DVOREL_TESTS=OFF -DVOREL_FUZZ=ON > /dev/null
 	@cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_problem_file fuzz_models
-	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_problem_file 5
-	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_models $(FUZZ_SECONDS) $(BUILD)/vorel-report
+	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_problem_file 5 $(BUILD)/vorel-report
+	@scripts/run-fuzz.sh $(FUZZ_BUILD)/fuzz/fuzz_models $(FUZZ_SECONDS) $(BUILD)/vorel-report models
 
 bench: deps
 	@cmake -S . -B $(BENCH_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release -DVOREL_GUI=OFF \
