@@ -62,29 +62,13 @@ void AtributosEntry::resolver() {
   if (tell(check(fields()))) showSolution(Option2_->isChecked() ? kNP : kP);
 }
 
-AtributosSolution::AtributosSolution(bool np)
-    : ControlSolution(np ? kNP : kP, np ? "Gráfico np" : "Gráfico p"), np_(np) {
-  state_ = &screen_;
-}
-
-Pages AtributosSolution::compute() {
-  const auto [painted, f] = onEntry<AtributosEntry>(
-      kEntry, [this](AtributosFields& in) { return activate(np_, in, screen_); });
-  showCommands();
-  return {painted.report, printout(np_, f, screen_), painted.chart};
-}
-
-void AtributosSolution::recalcular() {
-  const auto [painted, f] = onEntry<AtributosEntry>(
-      kEntry, [this](AtributosFields& in) { return quality::recalcular(np_, in, screen_); });
-  show(painted, printout(np_, f, screen_));
-}
-
 void registerAtributosScreens() {
   gui::Screens& screens = gui::Screens::instance();
   screens.add(kEntry, [] { return new AtributosEntry(); });
-  screens.add(kP, [] { return new AtributosSolution(false); });
-  screens.add(kNP, [] { return new AtributosSolution(true); });
+  screens.add(
+      kP, [] { return new OptionChartSolution<AtributosEntry>(kEntry, kP, "Gráfico p", false); });
+  screens.add(
+      kNP, [] { return new OptionChartSolution<AtributosEntry>(kEntry, kNP, "Gráfico np", true); });
 }
 
 }  // namespace vorel::quality

@@ -23,20 +23,6 @@ class AtributosEntry : public ControlEntry<AtributosFields> {
   // table_: K, r, tamano; heads Lblk, Lblr, Lbltamano
 };
 
-class AtributosSolution : public ControlSolution {
-  Q_OBJECT
- public:
-  explicit AtributosSolution(bool np);
-
- protected:
-  Pages compute() override;
-  void recalcular() override;
-
- private:
-  bool np_;
-  ControlScreen screen_;
-};
-
 void registerAtributosScreens();
 
 }  // namespace vorel::quality

@@ -51,31 +51,17 @@ void DefectosEntry::resolver() {
   if (tell(check(fields()))) showSolution(Option2_->isChecked() ? kU : kC);
 }
 
-DefectosSolution::DefectosSolution(bool variable)
-    : ControlSolution(variable ? kU : kC, variable ? "Gráfico u. Tamaño muestral variable"
-                                                   : "Gráfico c. Tamaño muestral constante"),
-      variable_(variable) {
-  state_ = &screen_;
-}
-
-Pages DefectosSolution::compute() {
-  const auto [painted, f] = onEntry<DefectosEntry>(
-      kEntry, [this](DefectosFields& in) { return activate(variable_, in, screen_); });
-  showCommands();
-  return {painted.report, printout(variable_, f, screen_), painted.chart};
-}
-
-void DefectosSolution::recalcular() {
-  const auto [painted, f] = onEntry<DefectosEntry>(
-      kEntry, [this](DefectosFields& in) { return quality::recalcular(variable_, in, screen_); });
-  show(painted, printout(variable_, f, screen_));
-}
-
 void registerDefectosScreens() {
   gui::Screens& screens = gui::Screens::instance();
   screens.add(kEntry, [] { return new DefectosEntry(); });
-  screens.add(kC, [] { return new DefectosSolution(false); });
-  screens.add(kU, [] { return new DefectosSolution(true); });
+  screens.add(kC, [] {
+    return new OptionChartSolution<DefectosEntry>(kEntry, kC,
+                                                  "Gráfico c. Tamaño muestral constante", false);
+  });
+  screens.add(kU, [] {
+    return new OptionChartSolution<DefectosEntry>(kEntry, kU, "Gráfico u. Tamaño muestral variable",
+                                                  true);
+  });
 }
 
 }  // namespace vorel::quality

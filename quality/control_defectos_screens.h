@@ -23,20 +23,6 @@ class DefectosEntry : public ControlEntry<DefectosFields> {
   // table_: K, r, N; heads Lblk, Lblr, Lbln
 };
 
-class DefectosSolution : public ControlSolution {
-  Q_OBJECT
- public:
-  explicit DefectosSolution(bool variable);
-
- protected:
-  Pages compute() override;
-  void recalcular() override;
-
- private:
-  bool variable_;
-  ControlScreen screen_;
-};
-
 void registerDefectosScreens();
 
 }  // namespace vorel::quality

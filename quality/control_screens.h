@@ -161,4 +161,49 @@ class ControlSolution : public gui::ChartSolutionScreen {
   std::map<gui::PictureButton*, QWidget*> captions_;
 };
 
+// The model's own chart functions over its fields, found as modelNuevo's.
+template <class Fields>
+Painted modelActivate(bool second, Fields& f, ControlScreen& s) {
+  return activate(second, f, s);
+}
+template <class Fields>
+Painted modelRecalcular(bool second, Fields& f, ControlScreen& s) {
+  return recalcular(second, f, s);
+}
+template <class Fields>
+Report modelPrintout(bool second, const Fields& f, const ControlScreen& s) {
+  return printout(second, f, s);
+}
+
+// The solution screen of the chart that Option1, or with `second` Option2,
+// of the entry `entry` chooses: the model's activate, recalcular and
+// printout over the entry's fields.
+template <class Entry>
+class OptionChartSolution : public ControlSolution {
+ public:
+  OptionChartSolution(std::string entry, const std::string& name, const QString& label2,
+                      bool second)
+      : ControlSolution(name, label2), entry_(std::move(entry)), second_(second) {
+    state_ = &screen_;
+  }
+
+ protected:
+  Pages compute() override {
+    const auto [painted, f] =
+        onEntry<Entry>(entry_, [this](auto& in) { return modelActivate(second_, in, screen_); });
+    showCommands();
+    return {painted.report, modelPrintout(second_, f, screen_), painted.chart};
+  }
+  void recalcular() override {
+    const auto [painted, f] =
+        onEntry<Entry>(entry_, [this](auto& in) { return modelRecalcular(second_, in, screen_); });
+    show(painted, modelPrintout(second_, f, screen_));
+  }
+
+ private:
+  std::string entry_;
+  bool second_;
+  ControlScreen screen_;
+};
+
 }  // namespace vorel::quality
