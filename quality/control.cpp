@@ -151,17 +151,27 @@ bool removeOutside(const ControlPass& pass, const Removal& removal) {
   return removed;
 }
 
+Removal removalOf(std::string& Nmuestras, std::function<double(int row)> value, Column& first,
+                  Column& second, bool keepFirst) {
+  return {Nmuestras, std::move(value),
+          [&first, &second](int j) {
+            shiftUp(first, j);
+            shiftUp(second, j);
+          },
+          keepFirst};
+}
+
 Painted runControl(ControlScreen& s, bool recalculation, const ControlPass& pass,
                    const Report& values, const Report& pageValues, const std::string& title,
-                   const std::string& inControl, const Removal& removal, bool& removed) {
+                   const std::string& inControl, const Removal& removal, bool* removed) {
   s.recalculated = recalculation;
   Painted painted{controlReport(title, values, pass, inControl), pass.chart};
   (recalculation ? s.lastValues : s.firstValues) = pageValues;
   s.outside = int(pass.outside.size());
   if (!recalculation) s.chart = pass.chart;
   s.Recalcular = false;
-  removed = removeOutside(pass, removal);
-  s.Recalcular = removed;
+  s.Recalcular = removeOutside(pass, removal);
+  if (removed) *removed = s.Recalcular;
   return painted;
 }
 

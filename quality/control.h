@@ -121,6 +121,10 @@ struct Removal {
 };
 bool removeOutside(const ControlPass& pass, const Removal& removal);
 
+// The removal over a table whose two columns move together.
+Removal removalOf(std::string& Nmuestras, std::function<double(int row)> value, Column& first,
+                  Column& second, bool keepFirst);
+
 // What a chart solution screen keeps between its commands: the value lines
 // that the page prints for the first pass and for the last Recalcular; the count
 // of points outside; the first pass's matrix, which the page draws; and
@@ -143,10 +147,10 @@ struct Painted {
 // `pass` with its value lines `values` (the page's are `pageValues`), keeps
 // the screen's variables (the first pass's matrix for the page), and then
 // takes the samples outside out of the entry through `removal`. True in
-// `removed` when it took any.
+// `*removed`, where given, when it took any.
 Painted runControl(ControlScreen& s, bool recalculation, const ControlPass& pass,
                    const Report& values, const Report& pageValues, const std::string& title,
-                   const std::string& inControl, const Removal& removal, bool& removed);
+                   const std::string& inControl, const Removal& removal, bool* removed = nullptr);
 
 // The screen report: five blank lines, the heading with `title`, the value
 // lines, a blank line, then a line for each point outside or `inControl`.

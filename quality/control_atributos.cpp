@@ -48,15 +48,10 @@ Painted run(bool np, AtributosFields& f, ControlScreen& s, bool recalculation) {
   const ControlPass pass =
       completePass(values, std::vector<float>(values.size(), LSC),
                    std::vector<float>(values.size(), LIC), LC, np ? "np" : "p", true);
-  bool removed = false;
-  return runControl(s, recalculation, pass, lines, lines, f.Titulo1, "El proceso está bajo control",
-                    {f.Nmuestras, [&](int i) { return value(np, f, i); },
-                     [&](int j) {
-                       shiftUp(f.r, j);
-                       shiftUp(f.tamano, j);
-                     },
-                     recalculation},
-                    removed);
+  return runControl(
+      s, recalculation, pass, lines, lines, f.Titulo1, "El proceso está bajo control",
+      removalOf(
+          f.Nmuestras, [&](int i) { return value(np, f, i); }, f.r, f.tamano, recalculation));
 }
 
 }  // namespace

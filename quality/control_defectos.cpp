@@ -47,15 +47,10 @@ Painted run(bool variable, DefectosFields& f, ControlScreen& s, bool recalculati
     valueLine(lines, "LC:", 2, LC);
   }
   const ControlPass pass = completePass(values, LSC, LIC, LC, variable ? "u" : "c", true);
-  bool removed = false;
-  return runControl(s, recalculation, pass, lines, lines, f.Titulo1, "El proceso está bajo control",
-                    {f.Nmuestras, [&](int i) { return value(variable, f, i); },
-                     [&](int j) {
-                       shiftUp(f.r, j);
-                       shiftUp(f.N, j);
-                     },
-                     recalculation},
-                    removed);
+  return runControl(
+      s, recalculation, pass, lines, lines, f.Titulo1, "El proceso está bajo control",
+      removalOf(
+          f.Nmuestras, [&](int i) { return value(variable, f, i); }, f.r, f.N, recalculation));
 }
 
 }  // namespace

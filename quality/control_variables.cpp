@@ -113,7 +113,7 @@ Painted run(Grafico g, VariablesFields& f, VariablesScreen& s, const std::string
                     shiftUp(f.S, j);
                   },
                   recalculation && medias},
-                 removed);
+                 &removed);
   if (removed && recalculation && medias) s.ControlDesviaciones = false;
   if (pass.outside.empty()) {
     s.Recalcular = false;
