@@ -75,20 +75,18 @@ VariablesSolution::VariablesSolution(Grafico g)
       40);
   placeCommand(redibujar);
   if (g == Grafico::Medias) {
-    ControlDesviaciones_ = command(
-        "ControlDesviaciones", "cmd-forward", "Control de Desviaciones Típicas",
-        [this] {
-          gui::Screens::instance().hide(name());
-          gui::Screens::instance().show(kSolutions[1]);
-        },
-        40);
-    ControlRecorridos_ = command(
-        "ControlRecorridos", "cmd-forward", "Control de Recorridos",
-        [this] {
-          gui::Screens::instance().hide(name());
-          gui::Screens::instance().show(kSolutions[2]);
-        },
-        40);
+    // Each opens its chart in place of this one.
+    auto opens = [this](const char* control, const char* caption, int chart) {
+      return command(
+          control, "cmd-forward", caption,
+          [this, chart] {
+            gui::Screens::instance().hide(name());
+            gui::Screens::instance().show(kSolutions[chart]);
+          },
+          40);
+    };
+    ControlDesviaciones_ = opens("ControlDesviaciones", "Control de Desviaciones Típicas", 1);
+    ControlRecorridos_ = opens("ControlRecorridos", "Control de Recorridos", 2);
     placeCommand(ControlRecorridos_);
     placeCommand(ControlDesviaciones_);
     // volver hides both before going back to the entry.
