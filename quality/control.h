@@ -164,6 +164,31 @@ Report controlPage(const std::string& heading, const std::string& title, int rul
                    const ControlScreen& screen, const std::string& notInControl,
                    const std::string& inControl);
 
+// The chart functions of a model whose Option2 chooses the second of two
+// charts, over its fields: they are found by the type of the fields, also
+// from the screens, whose members of the same names hide them.
+template <class Fields>
+Painted modelActivate(bool second, Fields& f, ControlScreen& s) {
+  return activate(second, f, s);
+}
+template <class Fields>
+Painted modelRecalcular(bool second, Fields& f, ControlScreen& s) {
+  return recalcular(second, f, s);
+}
+template <class Fields>
+Report modelPrintout(bool second, const Fields& f, const ControlScreen& s) {
+  return printout(second, f, s);
+}
+
+// Resolver and the activation of the chart that the option chose.
+template <class Fields>
+Pages solveChosenChart(Fields& f) {
+  ControlScreen s;
+  const bool second = f.Option2;
+  Painted painted = modelActivate(second, f, s);
+  return {painted.report, modelPrintout(second, f, s), s.chart};
+}
+
 // One line of values: Z label, `zones` zone steps, Str of the value, suffix.
 void valueLine(Report& r, const std::string& label, int zones, float value,
                const std::string& suffix = {});

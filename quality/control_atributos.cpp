@@ -120,16 +120,10 @@ Report printout(bool np, const AtributosFields& f, const ControlScreen& s) {
       54, s, kNotInControl, kInControl);
 }
 
-Pages solveAndReport(AtributosFields& f) {
-  ControlScreen s;
-  const bool np = f.Option2;
-  Painted painted = activate(np, f, s);
-  return {painted.report, printout(np, f, s), s.chart};
-}
-
 CatalogueEntry catalogueAtributos() {
-  CatalogueEntry entry = catalogued<AtributosFields>("control-atributos", "ControlCal_AtribP", "",
-                                                     exchange, check, solveAndReport);
+  CatalogueEntry entry =
+      catalogued<AtributosFields>("control-atributos", "ControlCal_AtribP", "", exchange, check,
+                                  solveChosenChart<AtributosFields>);
   entry.solutionHelp = "el gráfico p o el np, según la opción del fichero";
   return entry;
 }

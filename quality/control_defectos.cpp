@@ -111,16 +111,9 @@ Report printout(bool variable, const DefectosFields& f, const ControlScreen& s) 
                                 60, s, kNotInControl, kInControl);
 }
 
-Pages solveAndReport(DefectosFields& f) {
-  ControlScreen s;
-  const bool variable = f.Option2;
-  Painted painted = activate(variable, f, s);
-  return {painted.report, printout(variable, f, s), s.chart};
-}
-
 CatalogueEntry catalogueDefectos() {
-  CatalogueEntry entry = catalogued<DefectosFields>("control-defectos", "ControlCal_NDef", "",
-                                                    exchange, check, solveAndReport);
+  CatalogueEntry entry = catalogued<DefectosFields>(
+      "control-defectos", "ControlCal_NDef", "", exchange, check, solveChosenChart<DefectosFields>);
   entry.solutionHelp =
       "el gráfico c (tamaño constante) o el u (variable), según la opción del fichero";
   return entry;

@@ -161,20 +161,6 @@ class ControlSolution : public gui::ChartSolutionScreen {
   std::map<gui::PictureButton*, QWidget*> captions_;
 };
 
-// The model's own chart functions over its fields, found as modelNuevo's.
-template <class Fields>
-Painted modelActivate(bool second, Fields& f, ControlScreen& s) {
-  return activate(second, f, s);
-}
-template <class Fields>
-Painted modelRecalcular(bool second, Fields& f, ControlScreen& s) {
-  return recalcular(second, f, s);
-}
-template <class Fields>
-Report modelPrintout(bool second, const Fields& f, const ControlScreen& s) {
-  return printout(second, f, s);
-}
-
 // The solution screen of the chart that Option1, or with `second` Option2,
 // of the entry `entry` chooses: the model's activate, recalcular and
 // printout over the entry's fields.
