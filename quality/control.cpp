@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/arith.h"
+#include "frame/problem_file.h"
 
 namespace vorel::quality {
 
@@ -11,6 +12,89 @@ int rowCount(double N) { return CInt(N - 1) + 1; }
 std::string boxText(double x) {
   std::string s = Str(x);
   return s.front() == ' ' ? s.substr(1) : s;
+}
+
+double cellValue(const Column& column, int row) { return Val(item(column, row).text); }
+
+bool anyShown(const Column& column, const std::function<bool(const std::string&)>& bad) {
+  for (const Cell& c : column)
+    if (c.visible && bad(c.text)) return true;
+  return false;
+}
+
+void clearTable(Rows& K, Column& first, Column& second, std::initializer_list<Heads*> heads) {
+  for (std::size_t i = 0; i < kMaxMuestras; ++i) {
+    K[i] = true;
+    first[i] = {"", true};
+    second[i] = {"", true};
+  }
+  for (Heads* h : heads) h->fill(true);
+}
+
+void redesignRows(const std::string& Nmuestras, Rows& K, std::initializer_list<Column*> columns,
+                  std::initializer_list<Heads*> heads) {
+  for (std::size_t i = 0; i < kMaxMuestras; ++i) {
+    K[i] = false;
+    for (Column* c : columns) (*c)[i].visible = false;
+  }
+  for (Heads* h : heads) h->fill(false);
+  const int rows = rowCount(Val(Nmuestras));
+  for (int i = 0; i < rows; ++i) {
+    item(K, i) = true;
+    for (Column* c : columns) item(*c, i).visible = true;
+  }
+  for (std::size_t b = 0; b < 3; ++b)
+    for (Heads* h : heads) (*h)[b] = b == 0 || K[15 * b];
+}
+
+void showColumn(const Rows& K, Column& column, const Heads& Lblk, Heads& heads, bool shown) {
+  for (std::size_t i = 0; i < kMaxMuestras; ++i) column[i].visible = K[i] && shown;
+  for (std::size_t b = 0; b < 3; ++b) heads[b] = Lblk[b] && shown;
+}
+
+void exchangeTable(ProblemFile& file, Rows& K, Column& first, Column& second,
+                   std::initializer_list<Heads*> heads) {
+  for (std::size_t i = 0; i < kMaxMuestras; ++i) {
+    file.flag(K[i]);
+    file.text(first[i].text);
+    file.flag(first[i].visible);
+    file.text(second[i].text);
+    file.flag(second[i].visible);
+  }
+  for (std::size_t b = 0; b < 3; ++b)
+    for (Heads* h : heads) file.flag((*h)[b]);
+}
+
+Messages checkSamples(const Column& r, const Column& sizes, bool sizesShown,
+                      const std::string& Nmuestras, const std::string& constantSize) {
+  const std::string unaNumerica = "Todas las casillas deben contener una valor numérico";
+  auto notNumeric = [](const std::string& t) { return !IsNumeric(t); };
+  if (anyShown(r, notNumeric)) return {{unaNumerica, ""}};
+  if (anyShown(r, [](const std::string& t) { return Val(t) < 0 || Val(t) > 99999; }))
+    return {{"El número de defectos en cada muestra debe estar comprendido entre 0 y 99999", ""}};
+  if (sizesShown && anyShown(sizes, notNumeric)) return {{unaNumerica, ""}};
+  const double N = Val(Nmuestras);
+  if (N < 0 || N > 45) return {{"El número de muestras debe estar comprendido entre 1 y 45", ""}};
+  if (!IsNumeric(Nmuestras) || !IsNumeric(constantSize))
+    return {{"Todas las casillas deben tener un valor numérico", ""}};
+  return {};
+}
+
+void shiftUp(Column& column, int j) { item(column, j).text = item(column, j + 1).text; }
+
+SampleSums sumSamples(int rows, const std::function<double(int row)>& value,
+                      const std::function<double(int row)>& first,
+                      const std::function<double(int row)>& second) {
+  SampleSums s;
+  for (int i = 0; i < rows; ++i) {
+    s.values.push_back(value(i));
+    const double a = first(i), b = second(i);
+    s.first = checked(s.first + a);
+    s.second = checked(s.second + b);
+    s.firstSingle = Sng(double(s.firstSingle) + a);
+    s.secondSingle = Sng(double(s.secondSingle) + b);
+  }
+  return s;
 }
 
 float notBelowZero(float limit) { return limit < 0 ? 0.0f : limit; }
@@ -67,17 +151,27 @@ bool removeOutside(const ControlPass& pass, const Removal& removal) {
   return removed;
 }
 
+Removal removalOf(std::string& Nmuestras, std::function<double(int row)> value, Column& first,
+                  Column& second, bool keepFirst) {
+  return {Nmuestras, std::move(value),
+          [&first, &second](int j) {
+            shiftUp(first, j);
+            shiftUp(second, j);
+          },
+          keepFirst};
+}
+
 Painted runControl(ControlScreen& s, bool recalculation, const ControlPass& pass,
                    const Report& values, const Report& pageValues, const std::string& title,
-                   const std::string& inControl, const Removal& removal, bool& removed) {
+                   const std::string& inControl, const Removal& removal, bool* removed) {
   s.recalculated = recalculation;
   Painted painted{controlReport(title, values, pass, inControl), pass.chart};
   (recalculation ? s.lastValues : s.firstValues) = pageValues;
   s.outside = int(pass.outside.size());
   if (!recalculation) s.chart = pass.chart;
   s.Recalcular = false;
-  removed = removeOutside(pass, removal);
-  s.Recalcular = removed;
+  s.Recalcular = removeOutside(pass, removal);
+  if (removed) *removed = s.Recalcular;
   return painted;
 }
 

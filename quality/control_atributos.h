@@ -38,7 +38,4 @@ Painted activate(bool np, AtributosFields& f, ControlScreen& s);
 Painted recalcular(bool np, AtributosFields& f, ControlScreen& s);
 Report printout(bool np, const AtributosFields& f, const ControlScreen& s);
 
-// Resolver and the activation of the chart the option chose.
-Pages solveAndReport(AtributosFields& f);
-
 }  // namespace vorel::quality

@@ -7,7 +7,7 @@
 
 namespace vorel::quality {
 
-class AtributosEntry : public gui::ModelEntry<AtributosFields> {
+class AtributosEntry : public ControlEntry<AtributosFields> {
   Q_OBJECT
  public:
   AtributosEntry();
@@ -15,30 +15,12 @@ class AtributosEntry : public gui::ModelEntry<AtributosFields> {
   void setFields(const AtributosFields& f) override;
 
  protected:
-  void nuevo(AtributosFields& f) override { quality::nuevo(f); }
-  void exchange(ProblemFile& file, AtributosFields& f) override { quality::exchange(file, f); }
-  Messages check(const AtributosFields& f) override { return quality::check(f); }
   void resolver() override;
 
  private:
-  QRadioButton *Option1_, *Option2_;
-  QLineEdit *Nmuestras_, *NPTMuestra_;
+  QLineEdit* NPTMuestra_;
   QLabel *Label5_, *Label6_, *Labelr_, *labelrn_;
-  SampleTable table_;  // K, r, tamano; heads Lblk, Lblr, Lbltamano
-};
-
-class AtributosSolution : public ControlSolution {
-  Q_OBJECT
- public:
-  explicit AtributosSolution(bool np);
-
- protected:
-  Pages compute() override;
-  void recalcular() override;
-
- private:
-  bool np_;
-  ControlScreen screen_;
+  // table_: K, r, tamano; heads Lblk, Lblr, Lbltamano
 };
 
 void registerAtributosScreens();

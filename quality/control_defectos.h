@@ -37,6 +37,4 @@ Painted activate(bool variable, DefectosFields& f, ControlScreen& s);
 Painted recalcular(bool variable, DefectosFields& f, ControlScreen& s);
 Report printout(bool variable, const DefectosFields& f, const ControlScreen& s);
 
-Pages solveAndReport(DefectosFields& f);
-
 }  // namespace vorel::quality

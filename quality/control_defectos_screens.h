@@ -7,7 +7,7 @@
 
 namespace vorel::quality {
 
-class DefectosEntry : public gui::ModelEntry<DefectosFields> {
+class DefectosEntry : public ControlEntry<DefectosFields> {
   Q_OBJECT
  public:
   DefectosEntry();
@@ -15,30 +15,12 @@ class DefectosEntry : public gui::ModelEntry<DefectosFields> {
   void setFields(const DefectosFields& f) override;
 
  protected:
-  void nuevo(DefectosFields& f) override { quality::nuevo(f); }
-  void exchange(ProblemFile& file, DefectosFields& f) override { quality::exchange(file, f); }
-  Messages check(const DefectosFields& f) override { return quality::check(f); }
   void resolver() override;
 
  private:
-  QRadioButton *Option1_, *Option2_;
-  QLineEdit *Nmuestras_, *TMuestra_;
+  QLineEdit* TMuestra_;
   QLabel *Labelr_, *labelrn_;
-  SampleTable table_;  // K, r, N; heads Lblk, Lblr, Lbln
-};
-
-class DefectosSolution : public ControlSolution {
-  Q_OBJECT
- public:
-  explicit DefectosSolution(bool variable);
-
- protected:
-  Pages compute() override;
-  void recalcular() override;
-
- private:
-  bool variable_;
-  ControlScreen screen_;
+  // table_: K, r, N; heads Lblk, Lblr, Lbln
 };
 
 void registerDefectosScreens();

@@ -54,6 +54,41 @@ void SampleTable::create(gui::EntryScreen& screen, QVBoxLayout* body, const QStr
   gui::placeTable(body, screen.fieldGrid(), frame);
 }
 
+void SampleTable::read(Rows& Kshown, Column& firstCells, Column& secondCells,
+                       std::initializer_list<Heads*> heads) const {
+  for (int i = 0; i < kMaxMuestras; ++i) {
+    const auto at = std::size_t(i);
+    Kshown[at] = !K(i)->isHidden();
+    firstCells[at] = gui::readCell(first(i));
+    secondCells[at] = gui::readCell(second(i));
+  }
+  const gui::ControlArray<QLabel>* labels[] = {&Lblk, &headFirst, &headSecond, &headOther};
+  std::size_t l = 0;
+  for (Heads* h : heads) readVisible(*labels[l++], h->data());
+}
+
+void SampleTable::write(const Rows& Kshown, const Column& firstCells, const Column& secondCells,
+                        std::initializer_list<const Heads*> heads) {
+  for (int i = 0; i < kMaxMuestras; ++i) {
+    const auto at = std::size_t(i);
+    K(i)->setVisible(Kshown[at]);
+    gui::writeCell(first(i), firstCells[at]);
+    gui::writeCell(second(i), secondCells[at]);
+  }
+  const gui::ControlArray<QLabel>* labels[] = {&Lblk, &headFirst, &headSecond, &headOther};
+  std::size_t l = 0;
+  for (const Heads* h : heads) writeVisible(*labels[l++], h->data());
+}
+
+void writeOptions(QRadioButton* Option1, QRadioButton* Option2, bool first, bool second) {
+  Option1->setAutoExclusive(false);
+  Option2->setAutoExclusive(false);
+  Option1->setChecked(first);
+  Option2->setChecked(second);
+  Option1->setAutoExclusive(true);
+  Option2->setAutoExclusive(true);
+}
+
 QLabel* legend(QWidget* screen, QVBoxLayout* body, QWidget* after, const QString& name,
                const QString& text) {
   auto* label = new QLabel(text, screen);

@@ -14,6 +14,7 @@
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
 #include "frame/gui/picture_button.h"
+#include "frame/gui/table_screen.h"
 #include "quality/control.h"
 
 namespace vorel::quality {
@@ -32,6 +33,12 @@ struct SampleTable {
               const QString& secondName, const QString& headFirstName, const QString& headFirstText,
               const QString& headSecondName, const QString& headSecondText,
               const QString& otherName = {}, const QString& otherText = {});
+  // The fields of the table: K, the two columns, and the heads in the order
+  // Lblk, headFirst, headSecond, headOther.
+  void read(Rows& K, Column& firstCells, Column& secondCells,
+            std::initializer_list<Heads*> heads) const;
+  void write(const Rows& K, const Column& firstCells, const Column& secondCells,
+             std::initializer_list<const Heads*> heads);
 };
 
 // A legend below the table `after`.
@@ -42,6 +49,86 @@ QRadioButton* option(gui::EntryScreen& screen, const QString& name, const QStrin
 
 void readVisible(const gui::ControlArray<QLabel>& labels, bool* into);
 void writeVisible(const gui::ControlArray<QLabel>& labels, const bool* from);
+
+// The two options of an entry, written as a file may leave them: both off
+// together too.
+void writeOptions(QRadioButton* Option1, QRadioButton* Option2, bool first, bool second);
+
+// The model's own functions over its fields, found by the type of the fields
+// from the entry screens, whose members of the same names hide them.
+template <class Fields>
+void modelNuevo(Fields& f) {
+  nuevo(f);
+}
+template <class Fields>
+void modelExchange(ProblemFile& file, Fields& f) {
+  exchange(file, f);
+}
+template <class Fields>
+Messages modelCheck(const Fields& f) {
+  return check(f);
+}
+
+// An entry screen of control: the model's nuevo, check and problem file, its
+// two options, whose click runs the model's optionClick, the number of
+// samples with Rediseñar beside it, and the table of samples.
+template <class Fields>
+class ControlEntry : public gui::ModelEntry<Fields> {
+ protected:
+  using gui::ModelEntry<Fields>::ModelEntry;
+  void nuevo(Fields& f) override { modelNuevo(f); }
+  using gui::ModelEntry<Fields>::nuevo;
+  void exchange(ProblemFile& file, Fields& f) override { modelExchange(file, f); }
+  Messages check(const Fields& f) override { return modelCheck(f); }
+
+  void addOptions(const QString& first, const QString& second) {
+    Option1_ = option(*this, "Option1", first);
+    Option2_ = option(*this, "Option2", second);
+    for (auto [button, chosen] : {std::pair{Option1_, false}, std::pair{Option2_, true}})
+      QObject::connect(button, &QRadioButton::clicked, this, [this, chosen] {
+        this->edit([chosen](Fields& f) {
+          optionClick(f, chosen);
+          return Messages{};
+        });
+      });
+  }
+  // Rediseñar beside Nmuestras_, over `rows` rows of the field grid.
+  void addRediseñar(int rows) {
+    auto* reshape = gui::redesignButton(
+        *this,
+        [this] {
+          this->edit([](Fields& f) {
+            rediseñar(f);
+            return Messages{};
+          });
+        },
+        "Rediseñar", "Rediseñar");
+    this->fieldGrid()->addWidget(reshape, gui::gridRow(this->fieldGrid(), Nmuestras_), 2, rows, 1);
+    this->fieldGrid()->setColumnStretch(3, 1);
+  }
+
+  QRadioButton *Option1_ = nullptr, *Option2_ = nullptr;
+  QLineEdit* Nmuestras_ = nullptr;
+  SampleTable table_;
+};
+
+// A chart's computation on the fields of the entry screen `entry`, which
+// takes them back also when the computation fails: the samples taken out
+// before an error stay out. The fields as the computation left them.
+template <class Entry, class Run>
+auto onEntry(const std::string& entry, Run run) {
+  auto& screen = *dynamic_cast<Entry*>(gui::Screens::instance().load(entry));
+  auto f = screen.fields();
+  Painted painted;
+  try {
+    painted = run(f);
+  } catch (...) {
+    screen.setFields(f);
+    throw;
+  }
+  screen.setFields(f);
+  return std::pair{painted, f};
+}
 
 // The title of the screen reports: Titulo1 of Selec_Van (loading that screen
 // as reading its control does).
@@ -72,6 +159,37 @@ class ControlSolution : public gui::ChartSolutionScreen {
 
  private:
   std::map<gui::PictureButton*, QWidget*> captions_;
+};
+
+// The solution screen of the chart that Option1, or with `second` Option2,
+// of the entry `entry` chooses: the model's activate, recalcular and
+// printout over the entry's fields.
+template <class Entry>
+class OptionChartSolution : public ControlSolution {
+ public:
+  OptionChartSolution(std::string entry, const std::string& name, const QString& label2,
+                      bool second)
+      : ControlSolution(name, label2), entry_(std::move(entry)), second_(second) {
+    state_ = &screen_;
+  }
+
+ protected:
+  Pages compute() override {
+    const auto [painted, f] =
+        onEntry<Entry>(entry_, [this](auto& in) { return modelActivate(second_, in, screen_); });
+    showCommands();
+    return {painted.report, modelPrintout(second_, f, screen_), painted.chart};
+  }
+  void recalcular() override {
+    const auto [painted, f] =
+        onEntry<Entry>(entry_, [this](auto& in) { return modelRecalcular(second_, in, screen_); });
+    show(painted, modelPrintout(second_, f, screen_));
+  }
+
+ private:
+  std::string entry_;
+  bool second_;
+  ControlScreen screen_;
 };
 
 }  // namespace vorel::quality

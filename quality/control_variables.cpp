@@ -40,10 +40,6 @@ double factor(const std::array<const char*, 24>& table, const VariablesFields& f
   return Val(item(table, CInt(Val(f.Tmuestras) - 2)));
 }
 
-double sampleValue(const std::array<Cell, kMaxMuestras>& column, int row) {
-  return Val(item(column, row).text);
-}
-
 // Steps 2 to 9 of a chart: the values and limits of the chart `g`; with
 // `single` the sums run in Single (Recalcular of the means chart).
 // `values` gets the value lines of the screen, `page` those of the printed
@@ -53,21 +49,14 @@ ControlPass computePass(Grafico g, const VariablesFields& f, VariablesScreen& s,
                         bool recalculation, Report& values, Report& page) {
   const double N = Val(f.Nmuestras);
   const int rows = rowCount(N);
-  std::vector<double> column;
-  double sumM = 0, sumS = 0;
-  float sumMs = 0, sumSs = 0;
-  for (int i = 0; i < rows; ++i) {
-    const double m = sampleValue(f.M, i), sk = sampleValue(f.S, i);
-    column.push_back(g == Grafico::Medias ? m : sk);
-    sumM = checked(sumM + m);
-    sumS = checked(sumS + sk);
-    sumMs = Sng(double(sumMs) + m);
-    sumSs = Sng(double(sumSs) + sk);
-  }
+  const SampleSums sums = sumSamples(
+      rows, [&](int i) { return cellValue(g == Grafico::Medias ? f.M : f.S, i); },
+      [&](int i) { return cellValue(f.M, i); }, [&](int i) { return cellValue(f.S, i); });
+  const std::vector<double>& column = sums.values;
   const std::vector<float> none;
   if (g == Grafico::Medias) {
-    const float Xbar = Sng(divide(single ? sumMs : sumM, N));
-    const float Sbar = Sng(divide(single ? sumSs : sumS, N));
+    const float Xbar = Sng(divide(single ? sums.firstSingle : sums.first, N));
+    const float Sbar = Sng(divide(single ? sums.secondSingle : sums.second, N));
     const double sigma = divide(Sbar, factor(f.Option1 ? C2 : D2, f));
     const double spread = divide(checked(3 * sigma), Sqr(Val(f.Tmuestras)));
     const float LSC = notBelowZero(Sng(Xbar + spread));
@@ -81,7 +70,7 @@ ControlPass computePass(Grafico g, const VariablesFields& f, VariablesScreen& s,
                         std::vector<float>(column.size(), LIC), Xbar, "Medias", false);
   }
   // The mean of the Sk is only replaced when N differs from the value it holds.
-  if (N != s.Sbar) s.Sbar = Sng(divide(sumSs, N));
+  if (N != s.Sbar) s.Sbar = Sng(divide(sums.secondSingle, N));
   const bool desviaciones = g == Grafico::Desviaciones;
   const float LSC = notBelowZero(Sng(checked(factor(desviaciones ? B4 : D4, f) * s.Sbar)));
   const float LIC = notBelowZero(Sng(checked(factor(desviaciones ? B3 : D3, f) * s.Sbar)));
@@ -118,13 +107,13 @@ Painted run(Grafico g, VariablesFields& f, VariablesScreen& s, const std::string
   bool removed = false;
   Painted painted =
       runControl(s, recalculation, pass, values, page, title, inControl,
-                 {f.Nmuestras, [&](int i) { return sampleValue(medias ? f.M : f.S, i); },
+                 {f.Nmuestras, [&](int i) { return cellValue(medias ? f.M : f.S, i); },
                   [&](int j) {
-                    if (medias) item(f.M, j).text = item(f.M, j + 1).text;
-                    item(f.S, j).text = item(f.S, j + 1).text;
+                    if (medias) shiftUp(f.M, j);
+                    shiftUp(f.S, j);
                   },
                   recalculation && medias},
-                 removed);
+                 &removed);
   if (removed && recalculation && medias) s.ControlDesviaciones = false;
   if (pass.outside.empty()) {
     s.Recalcular = false;
@@ -147,12 +136,12 @@ Messages check(const VariablesFields& f) {
   const double n = Val(f.Tmuestras);
   if (n < 2 || n > 25) return {{"El tamaño de las muestras debe estar entre 2 y 25", ""}};
   for (int i = 0; i < rows; ++i) {
-    const double m = sampleValue(f.M, i);
+    const double m = cellValue(f.M, i);
     if (m < 0 || m > 99999)
       return {{"Las medias deben tener un valor comprendido entre 0 y 99999", ""}};
   }
   for (int i = 0; i < rows; ++i) {
-    const double sk = sampleValue(f.S, i);
+    const double sk = cellValue(f.S, i);
     if (sk < 0 || sk > 99999)
       return {{"Las desviaciones típicas deben tener un valor comprendido entre 0 y 99999", ""}};
   }
@@ -162,36 +151,19 @@ Messages check(const VariablesFields& f) {
 void nuevo(VariablesFields& f) {
   f.Nmuestras.clear();
   f.Tmuestras.clear();
-  for (int i = 0; i < kMaxMuestras; ++i) {
-    const auto at = std::size_t(i);
-    f.K[at] = true;
-    f.M[at] = {"", true};
-    f.S[at] = {"", true};
-  }
-  f.Lblk.fill(true);
-  f.LblM.fill(true);
-  f.LblS.fill(true);
+  clearTable(f.K, f.M, f.S, {&f.Lblk, &f.LblM, &f.LblS});
   f.LblMkSk = true;
   // Selecting Option1 runs its click.
   optionClick(f, false);
 }
 
 void rediseñar(VariablesFields& f) {
-  for (int i = 0; i < kMaxMuestras; ++i) {
-    const auto at = std::size_t(i);
-    f.K[at] = f.M[at].visible = f.S[at].visible = false;
-  }
-  for (auto* heads : {&f.Lblk, &f.LblM, &f.LblS, &f.LblR}) heads->fill(false);
-  const int rows = rowCount(Val(f.Nmuestras));
-  for (int i = 0; i < rows; ++i) {
-    item(f.K, i) = true;
-    item(f.M, i).visible = item(f.S, i).visible = true;
-  }
+  redesignRows(f.Nmuestras, f.K, {&f.M, &f.S}, {&f.Lblk, &f.LblM, &f.LblS, &f.LblR});
+  // Of the two heads of the second column, a shown block shows the one of the
+  // option; the blocks after the first show the ranges' head too.
   for (std::size_t b = 0; b < 3; ++b) {
-    if (b > 0 && !f.K[15 * b]) continue;
-    f.Lblk[b] = f.LblM[b] = true;
-    f.LblS[b] = f.Option1;
-    f.LblR[b] = f.Option2 || b > 0;
+    f.LblS[b] = f.LblS[b] && f.Option1;
+    f.LblR[b] = f.LblR[b] && (f.Option2 || b > 0);
   }
 }
 
@@ -215,19 +187,7 @@ void exchange(ProblemFile& file, VariablesFields& f) {
   file.text(f.Tmuestras);
   file.flag(f.LblMkRk);
   file.flag(f.LblMkSk);
-  for (std::size_t i = 0; i < kMaxMuestras; ++i) {
-    file.flag(f.K[i]);
-    file.text(f.M[i].text);
-    file.flag(f.M[i].visible);
-    file.text(f.S[i].text);
-    file.flag(f.S[i].visible);
-  }
-  for (std::size_t b = 0; b < 3; ++b) {
-    file.flag(f.Lblk[b]);
-    file.flag(f.LblM[b]);
-    file.flag(f.LblR[b]);
-    file.flag(f.LblS[b]);
-  }
+  exchangeTable(file, f.K, f.M, f.S, {&f.Lblk, &f.LblM, &f.LblR, &f.LblS});
 }
 
 Painted activate(Grafico g, VariablesFields& f, VariablesScreen& s, const std::string& title) {
@@ -246,12 +206,10 @@ Report printout(Grafico g, const VariablesFields& f, const VariablesScreen& s) {
                          "La media del proceso está bajo control estadístico");
     case Grafico::Desviaciones:
       return controlPage("CONTROL POR VARIABLES. Gráfico de Desviaciones Típicas ", f.Titulo1, 61,
-                         s, "El proceso no está bajo control estadístico",
-                         "El proceso está bajo control estadístico");
+                         s, kNotInControl, kInControl);
     case Grafico::Recorridos:
       return controlPage("CONTROL POR VARIABLES. Gráfico de Recorridos", f.Titulo1, 61, s,
-                         "El proceso no está bajo control estadístico",
-                         "El proceso está bajo control estadístico");
+                         kNotInControl, kInControl);
   }
   return {};
 }
@@ -276,8 +234,7 @@ CatalogueEntry catalogueVariables() {
       [](VariablesFields& f) { return solveAndReport(f, Grafico::Medias); });
   entry.solutionHelp = "el gráfico de medias (ControlCal_V_Sol)";
   entry.views = {
-      {"desviaciones",
-       "el de desviaciones típicas (ControlCal_V_Sol2), abierto desde el de medias",
+      {"desviaciones", "el de desviaciones típicas (ControlCal_V_Sol2), abierto desde el de medias",
        [](const std::string& path) {
          return runFromFile<VariablesFields>(path, exchange, check, [](VariablesFields& f) {
            return solveAndReport(f, Grafico::Desviaciones);

@@ -12,32 +12,16 @@ const char* const kSolutions[] = {"ControlCal_V_Sol", "ControlCal_V_Sol2", "Cont
 }  // namespace
 
 VariablesEntry::VariablesEntry()
-    : ModelEntry(kEntry, "Control por Variables. Control de Medias.", {}, "Titulo1", "Problema1") {
+    : ControlEntry(kEntry, "Control por Variables. Control de Medias.", {}, "Titulo1",
+                   "Problema1") {
   auto* question = new QLabel("¿Qué desea obtener?:", this);
   question->setStyleSheet("font-weight: 600; color: #4A5568;");
   fieldGrid()->addWidget(question, 0, 0, 1, 3);
-  Option1_ = option(*this, "Option1", "Gráfico de Medias junto con Desviaciones Típicas");
-  Option2_ = option(*this, "Option2", "Gráfico de Medias junto con Recorridos");
+  addOptions("Gráfico de Medias junto con Desviaciones Típicas",
+             "Gráfico de Medias junto con Recorridos");
   Nmuestras_ = addField("Nmuestras", "Número de  muestras", "Numero de muestras");
   Tmuestras_ = addField("Tmuestras", "Tamaño de las muestras", "Tamaño de esas muestras");
-  auto* reshape = gui::redesignButton(
-      *this,
-      [this] {
-        edit([](VariablesFields& f) {
-          rediseñar(f);
-          return Messages{};
-        });
-      },
-      "Rediseñar", "Rediseñar");
-  fieldGrid()->addWidget(reshape, gui::gridRow(fieldGrid(), Nmuestras_), 2, 2, 1);
-  fieldGrid()->setColumnStretch(3, 1);
-  for (auto [button, second] : {std::pair{Option1_, false}, std::pair{Option2_, true}})
-    connect(button, &QRadioButton::clicked, this, [this, second] {
-      edit([second](VariablesFields& f) {
-        optionClick(f, second);
-        return Messages{};
-      });
-    });
+  addRediseñar(2);
   table_.create(*this, body(), "M", "S", "LblM", "Mk", "LblS", "Sk", "LblR", "Rk");
   LblMkRk_ = legend(this, body(), table_.frame, "LblMkRk",
                     "Mk: Medias muestrales    Rk: Recorridos medios muestrales");
@@ -60,42 +44,18 @@ VariablesFields VariablesEntry::fields() const {
   f.Tmuestras = Tmuestras_->text().toStdString();
   f.LblMkRk = !LblMkRk_->isHidden();
   f.LblMkSk = !LblMkSk_->isHidden();
-  for (int i = 0; i < kMaxMuestras; ++i) {
-    const auto at = std::size_t(i);
-    f.K[at] = !table_.K(i)->isHidden();
-    f.M[at] = gui::readCell(table_.first(i));
-    f.S[at] = gui::readCell(table_.second(i));
-  }
-  readVisible(table_.Lblk, f.Lblk.data());
-  readVisible(table_.headFirst, f.LblM.data());
-  readVisible(table_.headSecond, f.LblS.data());
-  readVisible(table_.headOther, f.LblR.data());
+  table_.read(f.K, f.M, f.S, {&f.Lblk, &f.LblM, &f.LblS, &f.LblR});
   return f;
 }
 
 void VariablesEntry::setFields(const VariablesFields& f) {
   titleField()->setText(QString::fromStdString(f.Titulo1));
-  // Two options may be off together, as a file can leave them.
-  Option1_->setAutoExclusive(false);
-  Option2_->setAutoExclusive(false);
-  Option1_->setChecked(f.Option1);
-  Option2_->setChecked(f.Option2);
-  Option1_->setAutoExclusive(true);
-  Option2_->setAutoExclusive(true);
+  writeOptions(Option1_, Option2_, f.Option1, f.Option2);
   Nmuestras_->setText(QString::fromStdString(f.Nmuestras));
   Tmuestras_->setText(QString::fromStdString(f.Tmuestras));
   LblMkRk_->setVisible(f.LblMkRk);
   LblMkSk_->setVisible(f.LblMkSk);
-  for (int i = 0; i < kMaxMuestras; ++i) {
-    const auto at = std::size_t(i);
-    table_.K(i)->setVisible(f.K[at]);
-    gui::writeCell(table_.first(i), f.M[at]);
-    gui::writeCell(table_.second(i), f.S[at]);
-  }
-  writeVisible(table_.Lblk, f.Lblk.data());
-  writeVisible(table_.headFirst, f.LblM.data());
-  writeVisible(table_.headSecond, f.LblS.data());
-  writeVisible(table_.headOther, f.LblR.data());
+  table_.write(f.K, f.M, f.S, {&f.Lblk, &f.LblM, &f.LblS, &f.LblR});
   gui::fitToTable(*this);
 }
 
@@ -115,20 +75,18 @@ VariablesSolution::VariablesSolution(Grafico g)
       40);
   placeCommand(redibujar);
   if (g == Grafico::Medias) {
-    ControlDesviaciones_ = command(
-        "ControlDesviaciones", "cmd-forward", "Control de Desviaciones Típicas",
-        [this] {
-          gui::Screens::instance().hide(name());
-          gui::Screens::instance().show(kSolutions[1]);
-        },
-        40);
-    ControlRecorridos_ = command(
-        "ControlRecorridos", "cmd-forward", "Control de Recorridos",
-        [this] {
-          gui::Screens::instance().hide(name());
-          gui::Screens::instance().show(kSolutions[2]);
-        },
-        40);
+    // Each opens its chart in place of this one.
+    auto opens = [this](const char* control, const char* caption, int chart) {
+      return command(
+          control, "cmd-forward", caption,
+          [this, chart] {
+            gui::Screens::instance().hide(name());
+            gui::Screens::instance().show(kSolutions[chart]);
+          },
+          40);
+    };
+    ControlDesviaciones_ = opens("ControlDesviaciones", "Control de Desviaciones Típicas", 1);
+    ControlRecorridos_ = opens("ControlRecorridos", "Control de Recorridos", 2);
     placeCommand(ControlRecorridos_);
     placeCommand(ControlDesviaciones_);
     // volver hides both before going back to the entry.
@@ -149,32 +107,16 @@ void VariablesSolution::showButtons() {
 }
 
 Pages VariablesSolution::compute() {
-  auto& entrada = *dynamic_cast<VariablesEntry*>(gui::Screens::instance().load(kEntry));
-  VariablesFields f = entrada.fields();
-  const std::string title = selecVanTitulo1();
-  Painted painted;
-  try {
-    painted = activate(g_, f, screen_, title);
-  } catch (...) {
-    entrada.setFields(f);  // the samples taken out before the error stay out
-    throw;
-  }
-  entrada.setFields(f);
+  const auto [painted, f] = onEntry<VariablesEntry>(
+      kEntry, [this](VariablesFields& in) { return activate(g_, in, screen_, selecVanTitulo1()); });
   showButtons();
   return {painted.report, printout(g_, f, screen_), painted.chart};
 }
 
 void VariablesSolution::recalcular() {
-  auto& entrada = *dynamic_cast<VariablesEntry*>(gui::Screens::instance().load(kEntry));
-  VariablesFields f = entrada.fields();
-  Painted painted;
-  try {
-    painted = quality::recalcular(g_, f, screen_, selecVanTitulo1());
-  } catch (...) {
-    entrada.setFields(f);
-    throw;
-  }
-  entrada.setFields(f);
+  const auto [painted, f] = onEntry<VariablesEntry>(kEntry, [this](VariablesFields& in) {
+    return quality::recalcular(g_, in, screen_, selecVanTitulo1());
+  });
   show(painted, printout(g_, f, screen_));
   showButtons();
 }

@@ -8,7 +8,7 @@
 
 namespace vorel::quality {
 
-class VariablesEntry : public gui::ModelEntry<VariablesFields> {
+class VariablesEntry : public ControlEntry<VariablesFields> {
   Q_OBJECT
  public:
   VariablesEntry();
@@ -16,16 +16,13 @@ class VariablesEntry : public gui::ModelEntry<VariablesFields> {
   void setFields(const VariablesFields& f) override;
 
  protected:
-  void nuevo(VariablesFields& f) override { quality::nuevo(f); }
+  using ControlEntry::nuevo;
   void nuevo() override;
-  void exchange(ProblemFile& file, VariablesFields& f) override { quality::exchange(file, f); }
-  Messages check(const VariablesFields& f) override { return quality::check(f); }
 
  private:
-  QRadioButton *Option1_, *Option2_;
-  QLineEdit *Nmuestras_, *Tmuestras_;
+  QLineEdit* Tmuestras_;
   QLabel *LblMkSk_, *LblMkRk_;
-  SampleTable table_;  // K, M, S; heads Lblk, LblM, LblS and LblR
+  // table_: K, M, S; heads Lblk, LblM, LblS and LblR
 };
 
 class VariablesSolution : public ControlSolution {
