@@ -35,7 +35,7 @@ QStringList dialogFilters(const QString& filter) {
   for (int i = 0; i + 1 < parts.size(); i += 2) {
     if (parts[i].isEmpty()) continue;
     QString name = parts[i];
-    name.remove('_');  // an accelerator mark in the original filter name
+    name.remove('_');  // an accelerator mark in the filter's name
     // "*.*" meant every file where it was written; here it would hide the
     // files without an extension. The pattern in the last brackets is the one
     // Qt matches, and the dialog hides it, so the label reads as given.
