@@ -13,11 +13,6 @@ class Electra1Entry : public ValoracionesEntry<Electra1Fields> {
   Q_OBJECT
  public:
   Electra1Entry();
-
- protected:
-  void nuevo(Electra1Fields& f) override { decision::nuevo(f); }
-  void exchange(ProblemFile& file, Electra1Fields& f) override { decision::exchange(file, f); }
-  Messages check(const Electra1Fields& f) override { return decision::check(f); }
 };
 
 class Electra1Solution : public gui::SolutionScreen {

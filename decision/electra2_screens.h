@@ -13,11 +13,6 @@ class Electra2Entry : public ValoracionesEntry<Electra2Fields> {
   Q_OBJECT
  public:
   Electra2Entry();
-
- protected:
-  void nuevo(Electra2Fields& f) override { decision::nuevo(f); }
-  void exchange(ProblemFile& file, Electra2Fields& f) override { decision::exchange(file, f); }
-  Messages check(const Electra2Fields& f) override { return decision::check(f); }
 };
 
 class Electra2Solution : public gui::SolutionScreen {

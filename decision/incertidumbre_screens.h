@@ -23,11 +23,6 @@ class IncertidumbreEntry : public gui::ModelEntry<IncertidumbreFields> {
   IncertidumbreFields fields() const override;
   void setFields(const IncertidumbreFields& f) override;
 
- protected:
-  void nuevo(IncertidumbreFields& f) override { decision::nuevo(f); }
-  void exchange(ProblemFile& file, IncertidumbreFields& f) override { decision::exchange(file, f); }
-  Messages check(const IncertidumbreFields& f) override { return decision::check(f); }
-
  private:
   void rediseñarTabla();
 

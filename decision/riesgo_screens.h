@@ -23,11 +23,6 @@ class RiesgoEntry : public gui::ModelEntry<RiesgoFields> {
   RiesgoFields fields() const override;
   void setFields(const RiesgoFields& f) override;
 
- protected:
-  void nuevo(RiesgoFields& f) override { decision::nuevo(f); }
-  void exchange(ProblemFile& file, RiesgoFields& f) override { decision::exchange(file, f); }
-  Messages check(const RiesgoFields& f) override { return decision::check(f); }
-
  private:
   void rediseñarTabla();
 

@@ -44,7 +44,6 @@ class EquilibriosEntry : public gui::ModelEntry<Fields> {
  protected:
   void nuevo(Fields& f) override { games::nuevo(f, estado_); }
   void nuevo() override;
-  void exchange(ProblemFile& file, Fields& f) override { games::exchange(file, f); }
   // Resolver reports what the commands computed: one of them must have run.
   Messages check(const Fields&) override { return games::resolver(estado_.Calculado); }
 

@@ -16,20 +16,17 @@ namespace vorel::games {
 
 class JuegosNEntry : public gui::ModelEntry<JuegosNFields> {
   Q_OBJECT
-public:
+ public:
   JuegosNEntry();
   JuegosNFields fields() const override;
   void setFields(const JuegosNFields& f) override;
   // What the last Resolver left for the report (the hidden fields and lists).
   const JuegosNResults& results() const { return results_; }
 
-protected:
-  void nuevo(JuegosNFields& f) override { games::nuevo(f); }
+ protected:
   void resolver() override;
-  void exchange(ProblemFile& file, JuegosNFields& f) override { games::exchange(file, f); }
-  Messages check(const JuegosNFields& f) override { return games::check(f); }
 
-private:
+ private:
   void rediseñarTabla();
   gui::ControlArray<QLineEdit>& fila(int k) { return A_[static_cast<std::size_t>(k - 1)]; }
   const gui::ControlArray<QLineEdit>& fila(int k) const {
@@ -38,17 +35,17 @@ private:
 
   QComboBox* NDecA_;
   QComboBox* NDecB_;
-  gui::ControlArray<QLineEdit> cabeceraA_, cabeceraB_;  // the heads A(i) and B(i)
+  gui::ControlArray<QLineEdit> cabeceraA_, cabeceraB_;           // the heads A(i) and B(i)
   std::array<gui::ControlArray<QLineEdit>, kMaxEstrategias> A_;  // A_[k - 1] is the array Ak
   JuegosNResults results_;
 };
 
 class JuegosNSolution : public gui::SolutionScreen {
   Q_OBJECT
-public:
+ public:
   JuegosNSolution();
 
-protected:
+ protected:
   // The report reads the entry's texts as they stand and the results that
   // its Resolver left.
   Pages compute() override;

@@ -27,8 +27,6 @@ class MrpEntry : public gui::ModelEntry<MrpFields> {
  protected:
   void nuevo() override {}  // the picture is there, but does nothing on this screen
   void nuevo(MrpFields&) override {}
-  void exchange(ProblemFile& file, MrpFields& f) override { inventory::exchange(file, f); }
-  Messages check(const MrpFields& f) override { return inventory::check(f); }
 
  private:
   void rediseñar();

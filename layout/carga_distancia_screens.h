@@ -21,13 +21,6 @@ class CargaDistanciaEntry : public gui::ModelEntry<CargaDistanciaFields> {
   CargaDistanciaFields fields() const override;
   void setFields(const CargaDistanciaFields& f) override;
 
- protected:
-  void nuevo(CargaDistanciaFields& f) override { facility::nuevo(f); }
-  void exchange(ProblemFile& file, CargaDistanciaFields& f) override {
-    facility::exchange(file, f);
-  }
-  Messages check(const CargaDistanciaFields& f) override { return facility::check(f); }
-
  private:
   void rediseñarTabla();
 

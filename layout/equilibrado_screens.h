@@ -21,11 +21,6 @@ class EquilibradoEntry : public gui::ModelEntry<EquilibradoFields> {
   EquilibradoFields fields() const override;
   void setFields(const EquilibradoFields& f) override;
 
- protected:
-  void nuevo(EquilibradoFields& f) override { facility::nuevo(f); }
-  void exchange(ProblemFile& file, EquilibradoFields& f) override { facility::exchange(file, f); }
-  Messages check(const EquilibradoFields& f) override { return facility::check(f); }
-
  private:
   void rediseñarTabla();
 

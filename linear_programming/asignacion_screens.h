@@ -17,19 +17,12 @@ namespace vorel::linear_programming {
 
 class AsignacionEntry : public gui::ModelEntry<AsignacionFields> {
   Q_OBJECT
-public:
+ public:
   AsignacionEntry();
   AsignacionFields fields() const override;
   void setFields(const AsignacionFields& f) override;
 
-protected:
-  void nuevo(AsignacionFields& f) override { linear_programming::nuevo(f); }
-  void exchange(ProblemFile& file, AsignacionFields& f) override {
-    linear_programming::exchange(file, f);
-  }
-  Messages check(const AsignacionFields& f) override { return linear_programming::check(f); }
-
-private:
+ private:
   void rediseñarTabla();
   gui::ControlArray<QLineEdit>& columna(int j) { return C_[static_cast<std::size_t>(j - 1)]; }
   const gui::ControlArray<QLineEdit>& columna(int j) const {
@@ -39,25 +32,25 @@ private:
   QComboBox* NumIndividuos_;
   QComboBox* NumTareas_;
   std::array<gui::ControlArray<QLineEdit>, kAsignacionArrays> C_;  // C1..C8, rows 0..7
-  gui::ControlArray<QLabel> LblIndividuos_;                         // 0..6
-  gui::ControlArray<QLabel> LblTareas_;                             // 0..6
+  gui::ControlArray<QLabel> LblIndividuos_;                        // 0..6
+  gui::ControlArray<QLabel> LblTareas_;                            // 0..6
 };
 
 class AsignacionSolution : public gui::SolutionScreen {
   Q_OBJECT
-public:
+ public:
   AsignacionSolution();
   const AsignacionResults& results() const { return results_; }
   int pagina() const { return pagina_; }
 
-protected:
+ protected:
   // Every activation solves afresh and shows the first solution.
   Pages compute() override;
   // Every solution on one page, from the results of the last activation and
   // the entry's texts as they stand.
   void imprimir() override;
 
-private:
+ private:
   // forward1, forward2, Back1, back2: repaints the report with one solution.
   void mostrar(int pagina);
   void ofrecerComandos();  // only the moves that exist are shown

@@ -18,19 +18,12 @@ namespace vorel::linear_programming {
 
 class SimplexEntry : public gui::ModelEntry<SimplexFields> {
   Q_OBJECT
-public:
+ public:
   SimplexEntry();
   SimplexFields fields() const override;
   void setFields(const SimplexFields& f) override;
 
-protected:
-  void nuevo(SimplexFields& f) override { linear_programming::nuevo(f); }
-  void exchange(ProblemFile& file, SimplexFields& f) override {
-    linear_programming::exchange(file, f);
-  }
-  Messages check(const SimplexFields& f) override { return linear_programming::check(f); }
-
-private:
+ private:
   void rediseñarTabla();
 
   QComboBox* funcionObjetivo_;
@@ -45,7 +38,7 @@ private:
 
 class SimplexSolution : public gui::SolutionScreen {
   Q_OBJECT
-public:
+ public:
   SimplexSolution();
   // Solves the entry screen's problem and paints the final solution. The
   // method has no guard against cycling, so this may never end; it runs in
@@ -54,10 +47,10 @@ public:
   void formActivate() override;
   const SimplexResults& results() const { return results_; }
 
-protected:
+ protected:
   Pages compute() override;  // the report and page of the solving just ended
 
-private:
+ private:
   void browse(bool second);  // forward and back
   void showAvailability();
 

@@ -19,19 +19,12 @@ namespace vorel::linear_programming {
 
 class TransportesEntry : public gui::ModelEntry<TransportesFields> {
   Q_OBJECT
-public:
+ public:
   TransportesEntry();
   TransportesFields fields() const override;
   void setFields(const TransportesFields& f) override;
 
-protected:
-  void nuevo(TransportesFields& f) override { linear_programming::nuevo(f); }
-  void exchange(ProblemFile& file, TransportesFields& f) override {
-    linear_programming::exchange(file, f);
-  }
-  Messages check(const TransportesFields& f) override { return linear_programming::check(f); }
-
-private:
+ private:
   void rediseñarTabla();
   gui::ControlArray<QLineEdit>& columna(int j) { return C_[static_cast<std::size_t>(j - 1)]; }
   const gui::ControlArray<QLineEdit>& columna(int j) const {
@@ -41,13 +34,13 @@ private:
   QComboBox* NumOrigen_;
   QComboBox* NumDestino_;
   std::array<gui::ControlArray<QLineEdit>, kTransportesArrays> C_;  // C1..C8, rows 0..7
-  gui::ControlArray<QLabel> LblOrigen_;                              // 0..7
-  gui::ControlArray<QLabel> LblDestino_;                             // 0..7
+  gui::ControlArray<QLabel> LblOrigen_;                             // 0..7
+  gui::ControlArray<QLabel> LblDestino_;                            // 0..7
 };
 
 class TransportesSolution : public gui::SolutionScreen {
   Q_OBJECT
-public:
+ public:
   TransportesSolution();
   // Solves the entry's problem afresh. Some problems improve for ever: the
   // method runs in slices with the desktop's events handled in between, until
@@ -55,7 +48,7 @@ public:
   void formActivate() override;
   const TransportesResults& results() const { return results_; }
 
-protected:
+ protected:
   // The solution just found. A degenerate first solution is told, and the
   // entry comes back with all it held; nothing is painted.
   Pages compute() override;
@@ -63,7 +56,7 @@ protected:
   // as they stand.
   void imprimir() override;
 
-private:
+ private:
   TransportesResults results_;
 };
 

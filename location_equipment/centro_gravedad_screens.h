@@ -18,13 +18,6 @@ class CentroGravedadEntry : public gui::ModelEntry<CentroGravedadFields> {
   CentroGravedadFields fields() const override;
   void setFields(const CentroGravedadFields& f) override;
 
- protected:
-  void nuevo(CentroGravedadFields& f) override { location_equipment::nuevo(f); }
-  void exchange(ProblemFile& file, CentroGravedadFields& f) override {
-    location_equipment::exchange(file, f);
-  }
-  Messages check(const CentroGravedadFields& f) override { return location_equipment::check(f); }
-
  private:
   void rediseñarTabla();
 

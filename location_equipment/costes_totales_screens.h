@@ -21,11 +21,6 @@ class CostesTotalesEntry : public gui::ModelEntry<CostesTotalesFields> {
   void setFields(const CostesTotalesFields& f) override;
 
  protected:
-  void nuevo(CostesTotalesFields& f) override { location_equipment::nuevo(f); }
-  void exchange(ProblemFile& file, CostesTotalesFields& f) override {
-    location_equipment::exchange(file, f);
-  }
-  Messages check(const CostesTotalesFields& f) override { return location_equipment::check(f); }
   void resolver() override;  // the solution screen of two or of three options
 
  private:

@@ -21,15 +21,6 @@ class FactoresLocalizacionEntry : public gui::ModelEntry<FactoresLocalizacionFie
   FactoresLocalizacionFields fields() const override;
   void setFields(const FactoresLocalizacionFields& f) override;
 
- protected:
-  void nuevo(FactoresLocalizacionFields& f) override { location_equipment::nuevo(f); }
-  void exchange(ProblemFile& file, FactoresLocalizacionFields& f) override {
-    location_equipment::exchange(file, f);
-  }
-  Messages check(const FactoresLocalizacionFields& f) override {
-    return location_equipment::check(f);
-  }
-
  private:
   void rediseñarTabla();
 

@@ -19,13 +19,6 @@ class SelecPondEntry : public gui::ModelEntry<SelecPondFields> {
   SelecPondFields fields() const override;
   void setFields(const SelecPondFields& f) override;
 
- protected:
-  void nuevo(SelecPondFields& f) override { location_equipment::nuevo(f); }
-  void exchange(ProblemFile& file, SelecPondFields& f) override {
-    location_equipment::exchange(file, f);
-  }
-  Messages check(const SelecPondFields& f) override { return location_equipment::check(f); }
-
  private:
   gui::TextBindings<SelecPondFields> bindings_;
   QComboBox* NFact_;

@@ -22,11 +22,6 @@ class VanEntry : public gui::ModelEntry<VanFields> {
   VanFields fields() const override;
   void setFields(const VanFields& f) override;
 
- protected:
-  void nuevo(VanFields& f) override { location_equipment::nuevo(f); }
-  void exchange(ProblemFile& file, VanFields& f) override { location_equipment::exchange(file, f); }
-  Messages check(const VanFields& f) override { return location_equipment::check(f); }
-
  private:
   void rediseñar();
 

@@ -18,13 +18,6 @@ class ExperienciaEntry : public gui::ModelEntry<ExperienciaFields> {
   ExperienciaFields fields() const override;
   void setFields(const ExperienciaFields& f) override;
 
- protected:
-  void nuevo(ExperienciaFields& f) override { productivity::nuevo(f); }
-  void exchange(ProblemFile& file, ExperienciaFields& f) override {
-    productivity::exchange(file, f);
-  }
-  Messages check(const ExperienciaFields& f) override { return productivity::check(f); }
-
  private:
   gui::TextBindings<ExperienciaFields> bindings_;
   QCheckBox* Check1_;

@@ -20,11 +20,6 @@ class ProductividadGlobalEntry : public gui::ModelEntry<ProductividadGlobalField
   void setFields(const ProductividadGlobalFields& f) override;
 
  protected:
-  void nuevo(ProductividadGlobalFields& f) override { productivity::nuevo(f); }
-  void exchange(ProblemFile& file, ProductividadGlobalFields& f) override {
-    productivity::exchange(file, f);
-  }
-  Messages check(const ProductividadGlobalFields& f) override { return productivity::check(f); }
   // Resolver writes the results into their boxes, then shows the solution.
   void resolver() override;
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -14,13 +14,6 @@ class ProductividadSimpleEntry : public gui::ModelEntry<ProductividadSimpleField
   ProductividadSimpleFields fields() const override;
   void setFields(const ProductividadSimpleFields& f) override;
 
- protected:
-  void nuevo(ProductividadSimpleFields& f) override { productivity::nuevo(f); }
-  void exchange(ProblemFile& file, ProductividadSimpleFields& f) override {
-    productivity::exchange(file, f);
-  }
-  Messages check(const ProductividadSimpleFields& f) override { return productivity::check(f); }
-
  private:
   gui::TextBindings<ProductividadSimpleFields> bindings_;
 };

@@ -15,7 +15,7 @@ namespace vorel::queueing {
 
 class ColasEntry : public gui::ModelEntry<ColasFields> {
   Q_OBJECT
-public:
+ public:
   ColasEntry();
   ColasFields fields() const override;
   void setFields(const ColasFields& f) override;
@@ -23,13 +23,10 @@ public:
   // the texts stay.
   void formActivate() override;
 
-protected:
-  void nuevo(ColasFields& f) override { queueing::nuevo(f); }
+ protected:
   void resolver() override;
-  void exchange(ProblemFile& file, ColasFields& f) override { queueing::exchange(file, f); }
-  Messages check(const ColasFields& f) override { return queueing::check(f); }
 
-private:
+ private:
   void elegirSistema(int sistema);  // a click on an option button
   void elegirServicio();            // a choice in Servicios
 
@@ -43,14 +40,14 @@ private:
 
 class ColasSolution : public gui::SolutionScreen {
   Q_OBJECT
-public:
+ public:
   ColasSolution();
   const ColasResults& results() const { return results_; }
 
-protected:
+ protected:
   Pages compute() override;
 
-private:
+ private:
   ColasResults results_;
 };
 

@@ -5,9 +5,9 @@
 
 #include <QAbstractButton>
 #include <QGridLayout>
-#include <QVBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QVBoxLayout>
 #include <utility>
 #include <vector>
 
@@ -24,15 +24,14 @@ QVBoxLayout* captioned(QAbstractButton* button);
 
 class EntryScreen : public Screen {
   Q_OBJECT
-public:
+ public:
   // `titleField` is the title box's control name ("Titulo1", "Título").
   EntryScreen(const std::string& name, const QString& title, const QString& intro,
               const QString& titleField, const QString& titlePreset);
 
   QLineEdit* titleField() const { return titleField_; }
   // A labelled text box on the form's grid of fields.
-  QLineEdit* addField(const QString& objectName, const QString& label,
-                      const QString& toolTip = {});
+  QLineEdit* addField(const QString& objectName, const QString& label, const QString& toolTip = {});
   QGridLayout* fieldGrid() const { return fields_; }
 
   // Shows every message in order, focus going to its control, as Resolver's
@@ -41,30 +40,54 @@ public:
   // Shows the solution screen and, unless it stays, hides this one.
   void showSolution(const std::string& solution);
 
-protected:
+ protected:
   virtual void nuevo() = 0;
   virtual void abrir() = 0;
   virtual void guardar() = 0;
   virtual void resolver() = 0;
 
-private:
+ private:
   QLineEdit* titleField_;
   QGridLayout* fields_;
 };
 
+// Calls of a model's free functions, looked up beside its Fields type (the
+// entry screen's members of the same names would hide them there). A model
+// without a nuevo of its own leaves nuevo to its screen.
+namespace modelfn {
+template <class Fields>
+void callExchange(ProblemFile& file, Fields& f) {
+  exchange(file, f);
+}
+template <class Fields>
+Messages callCheck(const Fields& f) {
+  return check(f);
+}
+template <class Fields>
+concept HasNuevo = requires(Fields& f) {
+  nuevo(f);
+};
+template <class Fields>
+void callNuevo(Fields& f) {
+  if constexpr (HasNuevo<Fields>) nuevo(f);
+}
+}  // namespace modelfn
+
 // The part of an entry screen that knows its model's fields.
 template <class Fields>
 class ModelEntry : public EntryScreen {
-public:
+ public:
   using EntryScreen::EntryScreen;
 
   virtual Fields fields() const = 0;
   virtual void setFields(const Fields& f) = 0;
 
-protected:
-  virtual void exchange(ProblemFile& file, Fields& f) = 0;
-  virtual Messages check(const Fields& f) = 0;
-  virtual void nuevo(Fields& f) = 0;  // the model's own nuevo over its fields
+ protected:
+  // The model's own functions over its fields, found beside its Fields type;
+  // a screen overrides one only where it does more than call it.
+  virtual void exchange(ProblemFile& file, Fields& f) { modelfn::callExchange(file, f); }
+  virtual Messages check(const Fields& f) { return modelfn::callCheck(f); }
+  virtual void nuevo(Fields& f) { modelfn::callNuevo(f); }
 
   // Runs one of the model's own edits of its fields (nuevo, Rediseñar) on the
   // fields as they stand, tells its messages and puts the fields back; false
@@ -104,7 +127,7 @@ protected:
 // Binds text boxes to the text members of a fields struct.
 template <class Fields>
 class TextBindings {
-public:
+ public:
   void bind(std::string Fields::*member, QLineEdit* box) { bindings_.push_back({member, box}); }
   void read(Fields& f) const {
     for (auto& [member, box] : bindings_) f.*member = box->text().toStdString();
@@ -113,13 +136,13 @@ public:
     for (auto& [member, box] : bindings_) box->setText(QString::fromStdString(f.*member));
   }
 
-private:
+ private:
   std::vector<std::pair<std::string Fields::*, QLineEdit*>> bindings_;
 };
 
 class SolutionScreen : public Screen {
   Q_OBJECT
-public:
+ public:
   // `columns` and `lines` size the report box for the largest report;
   // `reportName` is the report box's control name.
   SolutionScreen(const std::string& name, const QString& label, int columns, int lines,
@@ -134,7 +157,7 @@ public:
   void formActivate() override;
   bool solving() const { return solving_; }
 
-protected:
+ protected:
   // Runs a method that may never end as `attempt(budget)`, which solves with a
   // step budget and throws DoesNotEnd when the budget is spent. Between
   // attempts, each with twice the budget up to `longest`, the desktop handles
@@ -155,7 +178,7 @@ protected:
   }
   QHBoxLayout* commandRow() const { return commands_; }
 
-private:
+ private:
   ReportBox* report_;
   QHBoxLayout* commands_;
   Report page_;
