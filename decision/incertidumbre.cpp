@@ -134,12 +134,7 @@ void lineasHurwicz(Report& out, const IncertidumbreResults& r, const std::string
 IncertidumbreFields::IncertidumbreFields() { aplicarForma(*this, 4, 4); }
 
 Messages rediseñar(IncertidumbreFields& f) {
-  const std::string estados = selectorText(f.NumEstados, kMaxEstados);
-  const std::string alternativas = selectorText(f.NumAlternativas, kMaxAlternativas);
-  if (estados.empty()) return {{"Seleccione el número de estados", ""}};
-  if (alternativas.empty()) return {{"Seleccione el número de alternativas", ""}};
-  aplicarForma(f, static_cast<int>(CDbl(alternativas)), static_cast<int>(CDbl(estados)));
-  return {};
+  return rediseñarPagos(f, kMaxAlternativas, kMaxEstados, aplicarForma);
 }
 
 void nuevo(IncertidumbreFields& f) {

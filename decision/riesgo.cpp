@@ -106,12 +106,7 @@ void lineasValorMedio(Report& out, const RiesgoResults& r) {
 RiesgoFields::RiesgoFields() { aplicarForma(*this, 4, 4); }
 
 Messages rediseñar(RiesgoFields& f) {
-  const std::string estados = selectorText(f.NumEstados, kMaxEstadosRiesgo);
-  const std::string alternativas = selectorText(f.NumAlternativas, kMaxAlternativasRiesgo);
-  if (estados.empty()) return {{"Seleccione el número de estados", ""}};
-  if (alternativas.empty()) return {{"Seleccione el número de alternativas", ""}};
-  aplicarForma(f, static_cast<int>(CDbl(alternativas)), static_cast<int>(CDbl(estados)));
-  return {};
+  return rediseñarPagos(f, kMaxAlternativasRiesgo, kMaxEstadosRiesgo, aplicarForma);
 }
 
 void nuevo(RiesgoFields& f) {

@@ -55,6 +55,20 @@ void exchangeFilas(ProblemFile& file, std::array<bool, N>& cabecerasColumnas, Ta
   }
 }
 
+// RediseñarTabla of a payoff table: `aplicarForma(f, alternativas, estados)`
+// with the numbers shown in the two selectors, or the message that asks for
+// the one left empty (the states first).
+template <class Fields, class AplicarForma>
+Messages rediseñarPagos(Fields& f, int maxAlternativas, int maxEstados,
+                        AplicarForma aplicarForma) {
+  const std::string estados = selectorText(f.NumEstados, maxEstados);
+  const std::string alternativas = selectorText(f.NumAlternativas, maxAlternativas);
+  if (estados.empty()) return {{"Seleccione el número de estados", ""}};
+  if (alternativas.empty()) return {{"Seleccione el número de alternativas", ""}};
+  aplicarForma(f, static_cast<int>(CDbl(alternativas)), static_cast<int>(CDbl(estados)));
+  return {};
+}
+
 // An alternative's number as the reports print it: " 3 ".
 inline std::string numero(int a) { return printed(double(a + 1)); }
 
