@@ -142,6 +142,10 @@ bool removeOutside(const ControlPass& pass, const Removal& removal) {
     const bool out = v > pass.LSC[row] || v < pass.LIC[row];
     if (!out || Val(removal.Nmuestras) == int(i) || (removal.keepFirst && i == 0)) continue;
     const Integer top = CInt(Val(removal.Nmuestras) - 1);
+    // A point past the count has no rows below it to move up: every later turn
+    // finds it out again and only lowers the count, until the count's Integer
+    // overflows. Raise that at once rather than after some 32,000 turns.
+    if (top < i) raise(err::Overflow);
     for (Integer j = 0; j <= top; ++j)
       if (j > i - 1) removal.shift(j);
     removed = true;

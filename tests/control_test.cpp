@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <functional>
 
@@ -179,6 +180,19 @@ TEST(ControlVariables, RunTimeErrors) {
   EXPECT_EQ(errorOf([&] { activate(Grafico::Medias, none, s, "t"); }), err::Overflow);
   // The deviations chart divides only when N differs from the mean it holds.
   EXPECT_EQ(errorOf([&] { activate(Grafico::Desviaciones, none, s, "t"); }), 0);
+}
+
+// The overflow above is certain from the first removal past the count, and
+// comes at once: a hundred such runs take far less than a second.
+TEST(ControlVariables, AHopelessRemovalEndsAtOnce) {
+  VariablesScreen s;
+  const auto start = std::chrono::steady_clock::now();
+  for (int k = 0; k < 100; ++k) {
+    VariablesFields twoOut =
+        variables("5", {"50", "56", "50", "44", "50", "50"}, std::vector<std::string>(6, "2"));
+    ASSERT_EQ(errorOf([&] { activate(Grafico::Medias, twoOut, s, "t"); }), err::Overflow);
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
 TEST(ControlVariables, SbarIsKeptWhileNEqualsIt) {
