@@ -111,8 +111,7 @@ Report printout(const Electra1Fields& f, const Electra1Results& r) {
 }
 
 Pages solveAndReport(Electra1Fields& f) {
-  const Electra1Results r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, Electra1Fields& f) {

@@ -256,8 +256,7 @@ Report printout(const Electra2Fields& f, const Electra2Results& r) {
 }
 
 Pages solveAndReport(Electra2Fields& f) {
-  const Electra2Results r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, Electra2Fields& f) {

@@ -351,8 +351,7 @@ Report printout(const IncertidumbreFields& f, const IncertidumbreResults& r) {
 }
 
 Pages solveAndReport(IncertidumbreFields& f) {
-  const IncertidumbreResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, IncertidumbreFields& f) {

@@ -275,8 +275,7 @@ Report printout(const RiesgoFields& f, const RiesgoResults& r) {
 }
 
 Pages solveAndReport(RiesgoFields& f) {
-  const RiesgoResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 // The file carries the heads' visibility but not their captions: reading the

@@ -41,6 +41,14 @@ struct Pages {
   Chart chart;
 };
 
+// The pages of a model whose results make both reports: its own solve, then
+// report (the screen) and printout (the page), found beside its fields.
+template <class Fields>
+Pages solvedPages(Fields& f) {
+  const auto r = solve(f);
+  return {report(f, r), printout(f, r)};
+}
+
 enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError = 3 };
 
 // Thrown by a method that would run for ever (a cycling simplex) once the step

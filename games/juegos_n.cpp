@@ -244,8 +244,7 @@ Report printout(const JuegosNFields& f, const JuegosNResults& r) {
 }
 
 Pages solveAndReport(JuegosNFields& f) {
-  const JuegosNResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, JuegosNFields& f) {

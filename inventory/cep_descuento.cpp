@@ -206,8 +206,7 @@ Report printout(const DescuentoFields& f, const DescuentoResults& r) {
 }
 
 Pages solveAndReport(DescuentoFields& f) {
-  const DescuentoResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, DescuentoFields& f) {

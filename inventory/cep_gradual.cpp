@@ -115,8 +115,7 @@ Report printout(const GradualFields& f, const GradualResults& r) {
 }
 
 Pages solveAndReport(GradualFields& f) {
-  const GradualResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, GradualFields& f) {

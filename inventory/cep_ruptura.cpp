@@ -140,8 +140,7 @@ Report printout(const RupturaFields& f, const RupturaResults& r) {
 }
 
 Pages solveAndReport(RupturaFields& f) {
-  const RupturaResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, RupturaFields& f) {

@@ -58,8 +58,7 @@ Report printout(const EoqFields& f, const EoqResults& r) {
 }
 
 Pages solveAndReport(EoqFields& f) {
-  const EoqResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, EoqFields& f) {

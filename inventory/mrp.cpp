@@ -427,8 +427,7 @@ Report printout(const MrpFields& f, const MrpRecords& r) {
 }
 
 Pages solveAndReport(MrpFields& f) {
-  const MrpRecords r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, MrpFields& f) {

@@ -206,8 +206,7 @@ Report printout(const CargaDistanciaFields& f, const CargaDistanciaResults& r) {
 }
 
 Pages solveAndReport(CargaDistanciaFields& f) {
-  const CargaDistanciaResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, CargaDistanciaFields& f) {

@@ -220,8 +220,7 @@ Report printout(const EquilibradoFields& f, const EquilibradoResults& r) {
 }
 
 Pages solveAndReport(EquilibradoFields& f) {
-  const EquilibradoResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, EquilibradoFields& f) {

@@ -215,8 +215,7 @@ Report printout(const AsignacionFields& f, const AsignacionResults& r) {
 }
 
 Pages solveAndReport(AsignacionFields& f) {
-  const AsignacionResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, AsignacionFields& f) {

@@ -95,8 +95,7 @@ Report printout(const CentroGravedadFields& f, const CentroGravedadResults& r) {
 }
 
 Pages solveAndReport(CentroGravedadFields& f) {
-  const CentroGravedadResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, CentroGravedadFields& f) {

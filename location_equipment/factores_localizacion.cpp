@@ -140,8 +140,7 @@ Report printout(const FactoresLocalizacionFields& f, const FactoresLocalizacionR
 }
 
 Pages solveAndReport(FactoresLocalizacionFields& f) {
-  const FactoresLocalizacionResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, FactoresLocalizacionFields& f) {

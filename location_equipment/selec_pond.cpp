@@ -101,8 +101,7 @@ Report printout(const SelecPondFields& f, const SelecPondResults& r) {
 }
 
 Pages solveAndReport(SelecPondFields& f) {
-  const SelecPondResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, SelecPondFields& f) {

@@ -130,8 +130,7 @@ Report printout(const VanFields& f, const VanResults& r) {
 }
 
 Pages solveAndReport(VanFields& f) {
-  const VanResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, VanFields& f) {

@@ -89,8 +89,7 @@ Report printout(const ProductividadSimpleFields& f, const ProductividadSimpleRes
 }
 
 Pages solveAndReport(ProductividadSimpleFields& f) {
-  const ProductividadSimpleResults r = solve(f);
-  return {report(f, r), printout(f, r)};
+  return solvedPages(f);
 }
 
 void exchange(ProblemFile& file, ProductividadSimpleFields& f) {
