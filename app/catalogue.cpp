@@ -25,4 +25,9 @@ const CatalogueEntry* findModel(const std::string& idOrScreen) {
   return nullptr;
 }
 
+std::unique_ptr<EntryForm> newEntryForm(const std::string& screen) {
+  const CatalogueEntry* model = findModel(screen);
+  return model && model->form && model->screen == screen ? model->form() : nullptr;
+}
+
 }  // namespace vorel

@@ -5,9 +5,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "frame/form.h"
 #include "frame/model.h"
 #include "frame/navigation.h"
 
@@ -33,6 +35,9 @@ struct CatalogueEntry {
   // and the others a file run can ask for.
   std::string solutionHelp;
   std::vector<CatalogueView> views;
+  // A fresh live form of its entry screen where its screens are described as
+  // data (frame/form.h); empty where they are not yet.
+  std::function<std::unique_ptr<EntryForm>()> form;
   std::string helpPage() const { return nav::helpPage(screen); }
 };
 
@@ -53,8 +58,19 @@ CatalogueEntry catalogued(std::string id, std::string screen, std::string presse
   return entry;
 }
 
+// The entry of a model whose screens are described as data.
+template <class Fields>
+CatalogueEntry catalogued(std::string id, const Form<Fields>& form) {
+  CatalogueEntry entry = catalogued<Fields>(std::move(id), form.entry.name, "", form.model.exchange,
+                                            form.model.check, form.model.solveAndReport);
+  entry.form = liveForm(form);
+  return entry;
+}
+
 // Every model, in the order of app/models.def.
 const std::vector<CatalogueEntry>& catalogue();
 const CatalogueEntry* findModel(const std::string& idOrScreen);
+// A fresh live form of an entry screen, or null where it is not described.
+std::unique_ptr<EntryForm> newEntryForm(const std::string& screen);
 
 }  // namespace vorel

@@ -65,6 +65,15 @@ std::vector<LaidOutLine> layout(const Report& report, double zoneWidth,
   return lines;
 }
 
+double averageCharWidth(const std::function<double(const std::string&)>& width) {
+  static constexpr int kWeights[27] = {64, 14, 27, 35, 100, 20, 14, 42, 63, 3, 6,  35, 20, 56,
+                                       56, 17, 4,  49, 56,  71, 31, 10, 18, 3, 18, 2,  166};
+  double sum = 0;
+  for (int k = 0; k < 26; ++k) sum += kWeights[k] * width(std::string(1, char('a' + k)));
+  sum += kWeights[26] * width(" ");
+  return sum / 1000;
+}
+
 int columns(const std::string& utf8) {
   int count = 0;
   for (unsigned char c : utf8)

@@ -27,7 +27,7 @@ inline constexpr int kZoneColumns = 14;
 inline const std::string kRule(74, '_');
 
 class Report {
-public:
+ public:
   // A statement ending its line: r.line(Z, "Demanda anual:", Z, Z, Z, D, " unidades").
   template <class... Items>
   Report& line(const Items&... items) {
@@ -49,7 +49,7 @@ public:
   const std::vector<Statement>& statements() const { return statements_; }
   bool empty() const { return statements_.empty(); }
 
-private:
+ private:
   static Piece toPiece(ZoneStep z) { return z; }
   static Piece toPiece(const std::string& s) { return s; }
   static Piece toPiece(const char* s) { return std::string(s); }
@@ -72,6 +72,12 @@ using LaidOutLine = std::vector<PlacedText>;
 // device units on screen and paper.
 std::vector<LaidOutLine> layout(const Report& report, double zoneWidth,
                                 const std::function<double(const std::string&)>& width);
+
+// The average character width of a font as the platform measured it, from
+// the widths of single characters: the weighted average of the lower-case
+// letters and the blank, in the weights of English text. (A font's own
+// recorded average may count every glyph.) A zone is 14 of these.
+double averageCharWidth(const std::function<double(const std::string&)>& width);
 
 // The number of characters (code points) of a UTF-8 text.
 int columns(const std::string& utf8);

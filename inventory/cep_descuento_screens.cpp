@@ -1,23 +1,11 @@
 #include "inventory/cep_descuento_screens.h"
 
 #include "frame/gui/table_screen.h"
+#include "inventory/pedido_forms.h"
 
 namespace vorel::inventory {
 
-DescuentoEntry::DescuentoEntry()
-    : PedidoEntry(
-          "GI_CEPDescuento", "Cantidad Económica de Pedido con Descuento",
-          "El modelo de cantidad económica de pedido con descuentos responde al tipo de "
-          "inventarios en el cual el coste unitario del producto varía en función del "
-          "volumen de pedido",
-          {inventory::nuevo, inventory::exchange, inventory::check, inventory::solveAndReport},
-          {{&DescuentoFields::D, "D", etiquetas::D},
-           {&DescuentoFields::E, "E", etiquetas::E},
-           {&DescuentoFields::A, "A", "Coste de almacenamiento (A)"},
-           {&DescuentoFields::ipor, "ipor",
-            "Coste de Almacenamiento como % del coste de adquisición(i)"},
-           {&DescuentoFields::TS, "TS", etiquetas::TS},
-           {&DescuentoFields::dias, "dias", etiquetas::dias}}) {
+DescuentoEntry::DescuentoEntry() : PedidoEntry(descuentoForm()) {
   const int top = fieldGrid()->rowCount();
   cmbIntervalos_ = gui::newSelector(this, {"2", "3", "4"});
   cmbIntervalos_->setObjectName("cmbIntervalos");
@@ -99,10 +87,8 @@ void DescuentoEntry::setFields(const DescuentoFields& f) {
 void registerDescuentoScreens() {
   gui::Screens& screens = gui::Screens::instance();
   screens.add("GI_CEPDescuento", [] { return new DescuentoEntry(); });
-  screens.add("GI_CEPDescuento_Solución", [] {
-    return new PedidoSolution<DescuentoFields>(
-        "GI_CEPDescuento_Solución", "Cantidad Económica de Pedido con Descuento", 80, 30);
-  });
+  screens.add(descuentoForm().solution.name,
+              [] { return new PedidoSolution<DescuentoFields>(descuentoForm()); });
 }
 
 }  // namespace vorel::inventory

@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "inventory/pedido.h"
+#include "inventory/pedido_forms.h"
 
 namespace vorel::inventory {
 
@@ -114,9 +115,7 @@ Report printout(const GradualFields& f, const GradualResults& r) {
   return out;
 }
 
-Pages solveAndReport(GradualFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(GradualFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, GradualFields& f) {
   for (std::string* item : {&f.Titulo1, &f.D, &f.E, &f.A, &f.TS, &f.P, &f.Pdia, &f.Ddia})
@@ -127,9 +126,6 @@ void nuevo(GradualFields& f) {
   for (std::string* field : {&f.D, &f.E, &f.A, &f.TS, &f.P, &f.Pdia, &f.Ddia}) field->clear();
 }
 
-CatalogueEntry catalogueGradual() {
-  return catalogued<GradualFields>("cep-gradual", "GI_CEPGradual", "", exchange, check,
-                                   solveAndReport);
-}
+CatalogueEntry catalogueGradual() { return catalogued("cep-gradual", gradualForm()); }
 
 }  // namespace vorel::inventory

@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "inventory/pedido.h"
+#include "inventory/pedido_forms.h"
 
 namespace vorel::inventory {
 
@@ -139,9 +140,7 @@ Report printout(const RupturaFields& f, const RupturaResults& r) {
   return out;
 }
 
-Pages solveAndReport(RupturaFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(RupturaFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, RupturaFields& f) {
   for (std::string* item : {&f.Titulo1, &f.D, &f.E, &f.A, &f.CR, &f.TS, &f.dias, &f.P})
@@ -152,9 +151,6 @@ void nuevo(RupturaFields& f) {
   for (std::string* field : {&f.D, &f.E, &f.A, &f.CR, &f.TS, &f.dias, &f.P}) field->clear();
 }
 
-CatalogueEntry catalogueRuptura() {
-  return catalogued<RupturaFields>("cep-ruptura", "GI_CEPRuptura", "", exchange, check,
-                                   solveAndReport);
-}
+CatalogueEntry catalogueRuptura() { return catalogued("cep-ruptura", rupturaForm()); }
 
 }  // namespace vorel::inventory

@@ -4,6 +4,7 @@
 #include "frame/catalogue.h"
 #include "frame/checks.h"
 #include "inventory/pedido.h"
+#include "inventory/pedido_forms.h"
 
 namespace vorel::inventory {
 
@@ -57,9 +58,7 @@ Report printout(const EoqFields& f, const EoqResults& r) {
   return out;
 }
 
-Pages solveAndReport(EoqFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(EoqFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, EoqFields& f) {
   for (std::string* item : {&f.Titulo1, &f.D, &f.E, &f.A, &f.TS, &f.dias, &f.P}) file.text(*item);
@@ -69,9 +68,6 @@ void nuevo(EoqFields& f) {
   for (std::string* field : {&f.D, &f.E, &f.A, &f.TS, &f.dias, &f.P}) field->clear();
 }
 
-CatalogueEntry catalogueEoq() {
-  return catalogued<EoqFields>("cep", "GI_CantidadEconómicaPedido", "", exchange, check,
-                               solveAndReport);
-}
+CatalogueEntry catalogueEoq() { return catalogued("cep", eoqForm()); }
 
 }  // namespace vorel::inventory

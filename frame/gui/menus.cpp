@@ -14,130 +14,47 @@ namespace vorel::gui {
 
 namespace {
 
-struct Topic {
-  const char* screen;
-  const char* picture;
-};
+bool modelAvailable(std::string_view screen) {
+  return Screens::instance().available(std::string(screen));
+}
 
-// The picture of each choice, by the screen it opens.
-constexpr Topic kPictures[] = {
-    {"ProgramaciónLineal", "programacion-lineal"},
-    {"DecisionTeoria", "teoria-decision"},
-    {"Juegos", "teoria-juegos"},
-    {"TeoriaColas", "teoria-colas"},
-    {"GestiónDeInventarios", "inventarios"},
-    {"Localizacion_P", "localizacion"},
-    {"SelecEquipos", "seleccion-equipos"},
-    {"ControlCal", "control-calidad"},
-    {"Productividad", "productividad"},
-    {"C_Experiencia", "curvas-experiencia"},
-    {"DistribucionFisica", "distribucion-fisica"},
-    {"PL_Simplex", "simplex"},
-    {"PL_Asignación", "asignacion"},
-    {"PL_Transportes", "transporte"},
-    {"DecisionRiesgoNobayesiano", "riesgo"},
-    {"DecisionIncertidumbre", "incertidumbre"},
-    {"DecisionMulticriterio", "multicriterio"},
-    {"DecisionElectra1", "electra1"},
-    {"DecisionElectra2", "electra2"},
-    {"GI_DemandaIndependiente", "demanda-independiente"},
-    {"GI_MRP", "mrp"},
-    {"GI_CantidadEconómicaPedido", "cep"},
-    {"GI_CEPGradual", "cep-gradual"},
-    {"GI_CEPRuptura", "cep-ruptura"},
-    {"GI_CEPDescuento", "cep-descuento"},
-    {"Juegos_2", "juegos-2"},
-    {"Juegos_3", "juegos-3"},
-    {"Juegos_n", "juegos-n"},
-    {"Localizacion_CG", "centro-gravedad"},
-    {"Localizacion_PF", "localizacion-factores"},
-    {"Selec_Pond", "equipos-factores"},
-    {"Selec_Van", "van"},
-    {"Select_C_Totales", "costes-totales"},
-    {"ControlCal_V", "control-variables"},
-    {"ControlCal_AtribP", "control-atributos"},
-    {"ControlCal_NDef", "control-defectos"},
-    {"Productividad_Simple", "productividad-parcial"},
-    {"Productividad_Global", "productividad-global"},
-    {"Distribucion_CargaDistancia", "carga-distancia"},
-    {"Distribucion_Equlibrado", "equilibrado"},
-};
-
-struct Section {
-  const char* prefix;
-  QRgb color;
-};
-
-// Section colours, by the first letters of a screen's name.
-constexpr Section kSections[] = {
-    {"PL_", 0x3B6FD8},
-    {"ProgramaciónLineal", 0x3B6FD8},
-    {"Decision", 0x8A4FD1},
-    {"Juegos", 0xD9495B},
-    {"TeoriaColas", 0x1FA6A6},
-    {"GI_", 0xE38B2C},
-    {"GestiónDeInventarios", 0xE38B2C},
-    {"Localizacion", 0x2E9E5B},
-    {"Selec", 0x5A6B7D},
-    {"ControlC", 0xC23C8C},
-    {"Productividad", 0xD4A017},
-    {"C_Experiencia", 0x3C8DBC},
-    {"Distribucion", 0x7A5C3E},
-};
+QString text(const std::string& s) { return QString::fromStdString(s); }
 
 }  // namespace
 
-QString choicePicture(const std::string& target) {
-  if (target.empty()) return QStringLiteral("juegos-tira");
-  for (const Topic& t : kPictures)
-    if (target == t.screen) return QString::fromLatin1(t.picture);
-  return QStringLiteral("volver");
-}
+QString choicePicture(const std::string& target) { return text(ui::choicePicture(target)); }
 
-QColor sectionColor(const std::string& screen) {
-  for (const Section& s : kSections)
-    if (screen.rfind(s.prefix, 0) == 0) return QColor(s.color);
-  return QColor(0x2F, 0x3A, 0x4A);
-}
+QColor sectionColor(const std::string& screen) { return QColor(QRgb(ui::sectionColor(screen))); }
 
 StartScreen::StartScreen() : Screen("AInicio") {
+  const ui::Description d = ui::startScreen();
+  auto label = [&](int i, const char* style) {
+    auto* l = new QLabel(text(d.controls[i].text), this);
+    l->setObjectName(text(d.controls[i].name));
+    l->setStyleSheet(style);
+    return l;
+  };
+  auto picture = [&](int i) {
+    auto* p = command(d.commands[i], [] {});
+    p->setCursor(Qt::ArrowCursor);
+    return p;
+  };
   setFixedSize(560, 400);
   setAccent(QColor(0x2F, 0x3A, 0x4A));
   auto* logoRow = new QHBoxLayout();
-  auto* logo = new PictureButton("logo", 96, this);
-  logo->setObjectName("Image1");
-  logo->setEnabled(true);
-  logo->setCursor(Qt::ArrowCursor);
-  logoRow->addWidget(logo);
+  logoRow->addWidget(picture(0));
   auto* titles = new QVBoxLayout();
-  auto* name = new QLabel("Vorel", this);
-  name->setObjectName("Label1");
-  name->setStyleSheet("font-size: 34pt; font-weight: 600; color: #2F3A4A;");
-  auto* subtitle = new QLabel("Aula de Gestión Productiva", this);
-  subtitle->setObjectName("Label2");
-  subtitle->setStyleSheet("font-size: 14pt; color: #4A5568;");
-  auto* version = new QLabel("Versión 1.1 (2004)", this);
-  version->setObjectName("Label3");
-  version->setStyleSheet("color: #718096;");
-  titles->addWidget(name);
-  titles->addWidget(subtitle);
-  titles->addWidget(version);
+  titles->addWidget(label(0, "font-size: 34pt; font-weight: 600; color: #2F3A4A;"));
+  titles->addWidget(label(1, "font-size: 14pt; color: #4A5568;"));
+  titles->addWidget(label(2, "color: #718096;"));
   logoRow->addLayout(titles);
   logoRow->addStretch();
   body()->addLayout(logoRow);
-  auto* collage = new PictureButton("inicio-collage", 150, this);
-  collage->setObjectName("Image2");
+  auto* collage = picture(1);
   collage->setFixedSize(240, 150);
-  collage->setCursor(Qt::ArrowCursor);
   body()->addWidget(collage, 0, Qt::AlignHCenter);
-  auto* madeBy = new QLabel("Elaborado por:", this);
-  madeBy->setObjectName("Label4");
-  madeBy->setStyleSheet("color: #4A5568; font-weight: 600;");
-  auto* authors = new QLabel("Equipo de desarrollo de Vorel", this);
-  authors->setObjectName("Label5");
-  authors->setStyleSheet("color: #4A5568;");
-  body()->addWidget(madeBy);
-  body()->addWidget(authors);
+  body()->addWidget(label(3, "color: #4A5568; font-weight: 600;"));
+  body()->addWidget(label(4, "color: #4A5568;"));
   Temporizador = new QTimer(this);
   Temporizador->setObjectName("Temporizador");
   Temporizador->setInterval(2000);
@@ -152,29 +69,31 @@ StartScreen::StartScreen() : Screen("AInicio") {
 }
 
 MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
+  const ui::Description d = ui::menu(menu, modelAvailable);
   const bool mainMenu = menu.name == "APrincipal";
   setAccent(sectionColor(menu.name));
-  setHeading(mainMenu ? QString() : QString::fromStdString(menu.title));
+  setHeading(text(d.heading));
+  auto label = [&](const ui::Control& c, const char* style) {
+    auto* l = new QLabel(text(c.text), this);
+    l->setObjectName(text(c.name));
+    l->setStyleSheet(style);
+    return l;
+  };
+  std::size_t firstChoice = 0;
   if (mainMenu) {
     auto* titleRow = new QHBoxLayout();
-    auto* logo = new PictureButton("logo", 64, this);
-    logo->setObjectName("Image1");
+    auto* logo = command(d.commands[firstChoice++], [] {});
+    logo->setEnabled(true);
     logo->setCursor(Qt::ArrowCursor);
     titleRow->addWidget(logo);
     auto* titles = new QVBoxLayout();
-    auto* title = new QLabel("Vorel", this);
-    title->setObjectName("Label1");
-    title->setStyleSheet("font-size: 26pt; font-weight: 600; color: #2F3A4A;");
-    auto* subtitle = new QLabel("Aula de Gestión Productiva", this);
-    subtitle->setObjectName("Label2");
-    subtitle->setStyleSheet("font-size: 13pt; color: #4A5568;");
-    titles->addWidget(title);
-    titles->addWidget(subtitle);
+    titles->addWidget(label(d.controls[0], "font-size: 26pt; font-weight: 600; color: #2F3A4A;"));
+    titles->addWidget(label(d.controls[1], "font-size: 13pt; color: #4A5568;"));
     titleRow->addLayout(titles);
     titleRow->addStretch();
     body()->addLayout(titleRow);
   } else {
-    auto* intro = new QLabel(QString::fromStdString(menu.intro), this);
+    auto* intro = new QLabel(text(d.intro), this);
     intro->setObjectName("Label1");
     intro->setWordWrap(true);
     intro->setStyleSheet("font-size: 10.5pt; color: #2D3748;");
@@ -184,41 +103,34 @@ MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
   auto* grid = new QGridLayout();
   grid->setHorizontalSpacing(18);
   grid->setVerticalSpacing(12);
-  const int columns = mainMenu ? 4 : menu.choices.size() > 3 ? 2 : 1;
-  const int size = mainMenu ? 76 : 64;
+  const int choices = static_cast<int>(d.commands.size() - firstChoice);
+  const int columns = mainMenu ? 4 : choices > 3 ? 2 : 1;
   int at = 0;
   Screens& screens = Screens::instance();
-  for (const nav::MenuChoice& choice : menu.choices) {
-    const bool strip = choice.target.empty();
-    const std::string target = choice.target, hides = choice.hides, self = menu.name;
-    const QString art = choice.label == "Volver" ? QStringLiteral("volver") : choicePicture(target);
-    auto* picture = command(
-        QString::fromStdString(choice.picture), art, {},
-        [&screens, target, hides] {
-          // The main menu hides first; section menus show first.
-          if (hides == "APrincipal") screens.hide(hides);
-          if (!target.empty()) screens.show(target);
-          if (hides != "APrincipal") screens.hide(hides);
-        },
-        size);
-    if (strip) {
-      picture->setFixedSize(size * 4, size / 2);
+  for (std::size_t i = firstChoice; i < d.commands.size(); ++i) {
+    const ui::Command& choice = d.commands[i];
+    const std::string target = choice.target, hides = choice.hides;
+    auto* picture = command(choice, [&screens, target, hides] {
+      // The main menu hides first; section menus show first.
+      if (hides == "APrincipal") screens.hide(hides);
+      if (!target.empty()) screens.show(target);
+      if (hides != "APrincipal") screens.hide(hides);
+    });
+    if (target.empty()) {  // the decorative strip
+      picture->setFixedSize(choice.size * 4, choice.size / 2);
       body()->addWidget(picture);
       continue;
     }
-    const bool builtYet = screens.available(target) || nav::findMenu(target);
-    picture->setEnabled(builtYet);
-    if (!builtYet) picture->setToolTip("Disponible próximamente");
-    auto* label = new QLabel(QString::fromStdString(choice.label), this);
-    label->setWordWrap(true);
-    label->setEnabled(builtYet);
-    label->setStyleSheet(builtYet ? "font-size: 10.5pt; color: #1A202C;"
-                                  : "font-size: 10.5pt; color: #A0AEC0;");
-    label->setMinimumWidth(mainMenu ? 150 : 260);
-    label->setMaximumWidth(mainMenu ? 170 : 300);
+    auto* caption = new QLabel(text(choice.caption), this);
+    caption->setWordWrap(true);
+    caption->setEnabled(choice.enabled);
+    caption->setStyleSheet(choice.enabled ? "font-size: 10.5pt; color: #1A202C;"
+                                          : "font-size: 10.5pt; color: #A0AEC0;");
+    caption->setMinimumWidth(mainMenu ? 150 : 260);
+    caption->setMaximumWidth(mainMenu ? 170 : 300);
     const int row = at / columns, column = (at % columns) * 2;
     grid->addWidget(picture, row, column);
-    grid->addWidget(label, row, column + 1);
+    grid->addWidget(caption, row, column + 1);
     ++at;
   }
   body()->addLayout(grid);

@@ -10,7 +10,7 @@ namespace vorel::gui {
 // AInicio: the package's pictures and labels for two seconds, then the main menu.
 class StartScreen : public Screen {
   Q_OBJECT
-public:
+ public:
   StartScreen();
   QTimer* Temporizador;
 };
@@ -20,7 +20,7 @@ public:
 // stay disabled.
 class MenuScreen : public Screen {
   Q_OBJECT
-public:
+ public:
   explicit MenuScreen(const nav::MenuInfo& menu);
 };
 

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QPointer>
-#include <algorithm>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "frame/gui/menus.h"
 #include "frame/gui/picture_button.h"
@@ -30,23 +30,27 @@ QVBoxLayout* captioned(QAbstractButton* button) {
 
 EntryScreen::EntryScreen(const std::string& name, const QString& title, const QString& intro,
                          const QString& titleField, const QString& titlePreset)
-    : Screen(name) {
-  setAccent(sectionColor(name));
-  setHeading(title);
-  if (!intro.isEmpty()) {
-    auto* text = styled(new QLabel(intro, this), "font-size: 10pt; color: #2D3748;");
+    : EntryScreen(ui::fieldEntry(name, title.toStdString(), intro.toStdString(),
+                                 titleField.toStdString(), titlePreset.toStdString(), {})) {}
+
+EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
+  setAccent(sectionColor(d.name));
+  setHeading(QString::fromStdString(d.heading));
+  if (!d.intro.empty()) {
+    auto* text = styled(new QLabel(QString::fromStdString(d.intro), this),
+                        "font-size: 10pt; color: #2D3748;");
     text->setObjectName("Label1");
     text->setWordWrap(true);
     text->setMaximumWidth(640);
     body()->addWidget(text);
   }
   auto* titleRow = new QHBoxLayout();
-  titleRow->addWidget(
-      styled(new QLabel("TÍTULO DEL PROBLEMA", this), "font-weight: 600; color: #4A5568;"));
-  titleField_ = new QLineEdit(titlePreset, this);
-  titleField_->setObjectName(titleField);
-  titleField_->setToolTip("Título del Problema");
-  titleField_->setMinimumWidth(280);
+  titleRow->addWidget(styled(new QLabel(QString::fromStdString(d.titleLabel.text), this),
+                             "font-weight: 600; color: #4A5568;"));
+  titleField_ = new QLineEdit(QString::fromStdString(d.titleField.text), this);
+  titleField_->setObjectName(QString::fromStdString(d.titleField.name));
+  titleField_->setToolTip(QString::fromStdString(d.titleField.toolTip));
+  titleField_->setMinimumWidth(d.titleField.width);
   titleRow->addWidget(titleField_);
   titleRow->addStretch();
   body()->addLayout(titleRow);
@@ -55,17 +59,36 @@ EntryScreen::EntryScreen(const std::string& name, const QString& title, const QS
   fields_->setHorizontalSpacing(16);
   fields_->setVerticalSpacing(8);
   body()->addLayout(fields_);
+  for (const ui::Control& c : d.controls)
+    if (c.kind == ui::ControlKind::TextBox) {
+      const ui::Control* caption = nullptr;
+      for (const ui::Control& l : d.controls)
+        if (l.kind == ui::ControlKind::Label && l.buddy == c.name) caption = &l;
+      addField(QString::fromStdString(c.name),
+               caption ? QString::fromStdString(caption->text) : QString(),
+               QString::fromStdString(c.toolTip));
+    }
   body()->addStretch();
 
   auto* commands = new QHBoxLayout();
   commands->setSpacing(18);
-  commands->addLayout(captioned(command("nuevo", "cmd-nuevo", "Nuevo", [this] { nuevo(); }, 40)));
-  commands->addLayout(captioned(command("abrir", "cmd-abrir", "Abrir", [this] { abrir(); }, 40)));
-  commands->addLayout(
-      captioned(command("guardar", "cmd-guardar", "Guardar", [this] { guardar(); }, 40)));
-  commands->addStretch();
-  commands->addLayout(
-      captioned(command("Resolver", "cmd-resolver", "Resolver", [this] { resolver(); }, 48)));
+  for (const ui::Command& c : d.commands) {
+    if (c.action == ui::Action::Resolver) commands->addStretch();
+    commands->addLayout(captioned(command(c, [this, action = c.action] {
+      switch (action) {
+        case ui::Action::Nuevo:
+          return nuevo();
+        case ui::Action::Abrir:
+          return abrir();
+        case ui::Action::Guardar:
+          return guardar();
+        case ui::Action::Resolver:
+          return resolver();
+        default:
+          return;
+      }
+    })));
+  }
   body()->addLayout(commands);
 }
 
@@ -105,15 +128,23 @@ void EntryScreen::showSolution(const std::string& solution) {
 
 SolutionScreen::SolutionScreen(const std::string& name, const QString& label, int columns,
                                int lines, const QString& reportName)
-    : Screen(name) {
-  setAccent(sectionColor(info() ? info()->entry : name));
-  setHeading(label);
-  report_ = new ReportBox(reportName, columns, lines, this);
-  body()->addWidget(report_);
+    : SolutionScreen(ui::reportSolution(name, label.toStdString(), columns, lines), reportName) {}
+
+SolutionScreen::SolutionScreen(const ui::Description& d, const QString& reportName)
+    : Screen(d.name) {
+  setAccent(sectionColor(info() ? info()->entry : d.name));
+  setHeading(QString::fromStdString(d.heading));
+  for (const ui::Control& c : d.controls)
+    if (c.kind == ui::ControlKind::ReportBox) {
+      report_ = new ReportBox(reportName.isEmpty() ? QString::fromStdString(c.name) : reportName,
+                              c.width, c.height, this);
+      body()->addWidget(report_);
+    }
   commands_ = new QHBoxLayout();
   commands_->addStretch();
-  commands_->addLayout(
-      captioned(command("Imprimir", "cmd-imprimir", "Imprimir", [this] { imprimir(); }, 40)));
+  for (const ui::Command& c : d.commands)
+    if (c.action == ui::Action::Imprimir)
+      commands_->addLayout(captioned(command(c, [this] { imprimir(); })));
   body()->addLayout(commands_);
 }
 

@@ -16,6 +16,7 @@
 #include "frame/gui/report_box.h"
 #include "frame/gui/screen.h"
 #include "frame/model.h"
+#include "frame/screen_description.h"
 
 namespace vorel::gui {
 
@@ -28,6 +29,8 @@ class EntryScreen : public Screen {
   // `titleField` is the title box's control name ("Titulo1", "Título").
   EntryScreen(const std::string& name, const QString& title, const QString& intro,
               const QString& titleField, const QString& titlePreset);
+  // The title, intro, title row, text boxes and commands of a description.
+  explicit EntryScreen(const ui::Description& description);
 
   QLineEdit* titleField() const { return titleField_; }
   // A labelled text box on the form's grid of fields.
@@ -147,6 +150,9 @@ class SolutionScreen : public Screen {
   // `reportName` is the report box's control name.
   SolutionScreen(const std::string& name, const QString& label, int columns, int lines,
                  const QString& reportName = QStringLiteral("Solucion1"));
+  // The label, report box and Imprimir of a description; `reportName`, where
+  // given, names the report box in place of the description's name.
+  explicit SolutionScreen(const ui::Description& description, const QString& reportName = {});
 
   ReportBox* Solucion1() const { return report_; }
   const Report& page() const { return page_; }
@@ -179,7 +185,7 @@ class SolutionScreen : public Screen {
   QHBoxLayout* commandRow() const { return commands_; }
 
  private:
-  ReportBox* report_;
+  ReportBox* report_ = nullptr;
   QHBoxLayout* commands_;
   Report page_;
   bool solving_ = false;

@@ -12,6 +12,7 @@
 #include "frame/gui/printing.h"
 #include "frame/gui/screen.h"
 #include "frame/gui/session.h"
+#include "frame/screen_description.h"
 
 namespace vorel::gui {
 
@@ -59,7 +60,7 @@ QtPlatform::QtPlatform() = default;
 QtPlatform::~QtPlatform() { delete printer_; }
 
 void QtPlatform::errorBox(const QString& text) {
-  QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Error"), text, QMessageBox::Ok,
+  QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(ui::kErrorTitle), text, QMessageBox::Ok,
                   QApplication::activeWindow());
   box.exec();
 }
@@ -116,10 +117,8 @@ QPrinter& QtPlatform::printer() {
 }
 
 void QtPlatform::runtimeError(const RuntimeError& e) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Vorel"),
-                  QStringLiteral("Error en tiempo de ejecución '%1':\n\n%2")
-                      .arg(e.number())
-                      .arg(QString::fromUtf8(e.what())),
+  QMessageBox box(QMessageBox::Critical, QString::fromUtf8(ui::kRuntimeErrorTitle),
+                  QString::fromStdString(ui::runtimeErrorText(e.number(), e.what())),
                   QMessageBox::Ok, QApplication::activeWindow());
   box.exec();
   endProcess();

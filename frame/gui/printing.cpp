@@ -20,12 +20,9 @@ QFont reportFont(double pointSize) {
 }
 
 double averageCharWidth(const QFontMetricsF& metrics) {
-  static constexpr int kWeights[27] = {64, 14, 27, 35, 100, 20, 14, 42, 63, 3, 6,  35, 20, 56,
-                                       56, 17, 4,  49, 56,  71, 31, 10, 18, 3, 18, 2,  166};
-  double sum = 0;
-  for (int k = 0; k < 26; ++k) sum += kWeights[k] * metrics.horizontalAdvance(QChar('a' + k));
-  sum += kWeights[26] * metrics.horizontalAdvance(QChar(' '));
-  return sum / 1000;
+  return vorel::averageCharWidth([&metrics](const std::string& s) {
+    return metrics.horizontalAdvance(QString::fromStdString(s));
+  });
 }
 
 double paintReport(QPainter& painter, const Report& report, double top,

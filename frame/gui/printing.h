@@ -20,9 +20,7 @@ QFont reportFont(double pointSize);
 inline constexpr double kScreenPointSize = 8.25;
 inline constexpr double kPrinterPointSize = 12;
 
-// The average character width of a font as the platform measured it: the
-// weighted average of the lower-case letters and the blank, in the weights of
-// English text. (A font's own recorded average may count every glyph.)
+// The average character width of a font (vorel::averageCharWidth).
 double averageCharWidth(const QFontMetricsF& metrics);
 
 // Paints a report from `top`, a zone being 14 average character widths of the

@@ -55,33 +55,24 @@ void Screen::setAccent(const QColor& color) {
 
 void Screen::buildChrome() {
   Screens& screens = Screens::instance();
-  const bool mainMenu = info_->kind == nav::Kind::MainMenu;
-  const bool sectionMenu = info_->kind == nav::Kind::SectionMenu;
-  auto add = [this](PictureButton* b) { chrome_->addWidget(b); };
-  if (info_->ayuda)
-    add(command(
-        mainMenu ? "Image7" : "ayuda", "cmd-ayuda", "Ayuda",
-        [this] {
-          platform().startHelp(helpFolder() + '/' + QString::fromStdString(nav::helpPage(name_)));
-        },
-        30));
-  if (info_->gohome)
-    add(command(
-        "gohome", "cmd-gohome", "Pantalla de Inicio", [this, &screens] { screens.gohome(*this); },
-        30));
-  if (!info_->volver.empty() && !sectionMenu)
-    add(command(
-        "volver", "cmd-volver", "Volver", [this, &screens] { screens.volver(*this); }, 30));
-  if (info_->minimizar)
-    add(command(
-        mainMenu      ? "Image11"
-        : sectionMenu ? "Minimiz"
-                      : "minimizar",
-        "cmd-minimizar", "Minimizar", [this] { setWindowState(Qt::WindowMinimized); }, 30));
-  if (info_->cerrar != nav::Cerrar::None)
-    add(command(
-        mainMenu ? "Image10" : "cerrar", "cmd-cerrar", "Cerrar",
-        [this, &screens] { screens.cerrar(*this); }, 30));
+  for (const ui::Command& c : ui::chrome(*info_))
+    chrome_->addWidget(command(c, [this, &screens, action = c.action] {
+      switch (action) {
+        case ui::Action::Ayuda:
+          return platform().startHelp(helpFolder() + '/' +
+                                      QString::fromStdString(nav::helpPage(name_)));
+        case ui::Action::Gohome:
+          return screens.gohome(*this);
+        case ui::Action::Volver:
+          return screens.volver(*this);
+        case ui::Action::Minimizar:
+          return setWindowState(Qt::WindowMinimized);
+        case ui::Action::Cerrar:
+          return screens.cerrar(*this);
+        default:
+          return;
+      }
+    }));
 }
 
 void Screen::run(const std::function<void()>& handler) {
@@ -99,6 +90,13 @@ PictureButton* Screen::command(const QString& objectName, const QString& picture
   button->setToolTip(toolTip);
   connect(button, &QAbstractButton::clicked, this,
           [handler = std::move(handler)] { run(handler); });
+  return button;
+}
+
+PictureButton* Screen::command(const ui::Command& c, std::function<void()> handler) {
+  PictureButton* button = command(QString::fromStdString(c.name), QString::fromStdString(c.picture),
+                                  QString::fromStdString(c.toolTip), std::move(handler), c.size);
+  button->setEnabled(c.enabled);
   return button;
 }
 

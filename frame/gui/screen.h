@@ -10,6 +10,7 @@
 #include <string>
 
 #include "frame/navigation.h"
+#include "frame/screen_description.h"
 
 class QHBoxLayout;
 class QVBoxLayout;
@@ -36,6 +37,8 @@ public:
   PictureButton* command(const QString& objectName, const QString& picture,
                          const QString& toolTip, std::function<void()> handler,
                          int size = 36);
+  // The same, from a description's command.
+  PictureButton* command(const ui::Command& c, std::function<void()> handler);
 
 protected:
   // The body of the window, below the header band with the chrome.

@@ -1,0 +1,114 @@
+// Screens as data: the controls, texts and commands of a screen, written once
+// and drawn by both the desktop (Qt) and the browser. A description holds no
+// behaviour beyond naming what each command does; the frames of the two
+// editions carry the commands out on the core.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/navigation.h"
+
+namespace vorel::ui {
+
+// What a command picture does.
+enum class Action {
+  Nuevo,
+  Abrir,
+  Guardar,
+  Resolver,
+  Imprimir,
+  Ayuda,
+  Gohome,
+  Volver,
+  Minimizar,
+  Cerrar,
+  Show,  // a menu's picture: shows `target`, hides `hides`
+  None,  // a picture that does nothing when clicked
+};
+
+// A picture that acts as a command.
+struct Command {
+  std::string name;     // its control name: "nuevo", "Image7"
+  std::string toolTip;  // "Nuevo"
+  std::string caption;  // the text beside or below the picture
+  std::string picture;  // the picture's name among the program's pictures: "cmd-nuevo"
+  Action action = Action::None;
+  std::string target, hides;  // Show: what it shows and what it hides (see nav::MenuChoice)
+  bool enabled = true;
+  int size = 36;  // the picture's side in pixels at scale 1
+};
+
+enum class ControlKind {
+  Label,      // a text
+  TextBox,    // a field typed by the student
+  ReportBox,  // the box a solution screen paints its report on
+};
+
+struct Control {
+  ControlKind kind = ControlKind::Label;
+  std::string name;     // its control name ("D", "Label1"); may be empty for a plain label
+  std::string text;     // a label's caption, a text box's preset
+  std::string toolTip;  // a text box's tool-tip
+  std::string buddy;    // a label that names a text box: that box's name
+  // The place on the screen's grid of fields (labels in column 0, boxes in
+  // column 1); the title row, the intro and the report box lie outside it.
+  int row = 0, column = 0;
+  // A text box's width in pixels at scale 1; a report box's in average
+  // character widths, its height in lines.
+  int width = 0, height = 0;
+  bool visible = true;
+};
+
+struct Description {
+  std::string name;     // the screen: "GI_CantidadEconómicaPedido"
+  std::string heading;  // the title shown in the window's band
+  std::string intro;    // the introductory text under it, if any
+  // The title field of an entry screen: its caption, control and preset.
+  Control titleLabel, titleField;
+  std::vector<Control> controls;  // in reading order
+  std::vector<Command> chrome;    // the window's own commands in the header band
+  std::vector<Command> commands;  // the screen's commands, or a menu's pictures
+};
+
+// The texts of the frame that every screen shares.
+inline constexpr char kTituloCaption[] = "TÍTULO DEL PROBLEMA";
+inline constexpr char kTituloToolTip[] = "Título del Problema";
+inline constexpr char kNotYet[] = "Disponible próximamente";
+inline constexpr char kErrorTitle[] = "Error";  // every check's message box
+inline constexpr char kRuntimeErrorTitle[] = "Vorel";
+// The text of the box that reports a run-time error.
+std::string runtimeErrorText(int number, const std::string& text);
+
+// The window's own commands of a screen, as the screen tree gives them.
+std::vector<Command> chrome(const nav::ScreenInfo& screen);
+// nuevo, abrir, guardar and Resolver of an entry screen.
+std::vector<Command> entryCommands();
+// Imprimir of a solution screen.
+Command imprimir();
+
+// The start screen, the main menu and the section menus. `available` tells
+// whether a model's entry screen can be shown yet (its choice is greyed if not).
+Description startScreen();
+Description menu(const nav::MenuInfo& menu, bool (*available)(std::string_view screen));
+
+// An entry screen of text fields: the title row, then one labelled box per
+// field, in order. `fields` are {control, label} pairs.
+struct FieldLabel {
+  const char* name;
+  const char* label;
+};
+Description fieldEntry(std::string_view screen, std::string heading, std::string intro,
+                       std::string titleName, std::string titlePreset,
+                       const std::vector<FieldLabel>& fields);
+// A solution screen with its title label, its report box sized for the
+// largest report (`columns` by `lines`) and Imprimir.
+Description reportSolution(std::string_view screen, std::string label, int columns, int lines);
+
+// The picture of a menu's choice, by the screen it opens, and the colour of a
+// screen's section (0xRRGGBB).
+std::string choicePicture(std::string_view target);
+unsigned sectionColor(std::string_view screen);
+
+}  // namespace vorel::ui

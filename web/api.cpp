@@ -1,0 +1,354 @@
+#include "web/api.h"
+
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "frame/arith.h"
+#include "frame/catalogue.h"
+#include "frame/form.h"
+#include "web/json.h"
+
+namespace vorel::web {
+namespace {
+
+std::string answer;  // the last answer, kept until the next call
+std::map<std::string, std::unique_ptr<EntryForm>, std::less<>> loaded;
+// Until the page measures its font, a character is one column wide: the
+// layout is then the plain text's.
+std::array<double, 256> ems = [] {
+  std::array<double, 256> ones;
+  ones.fill(1);
+  return ones;
+}();
+double averageEm = 1;
+
+const char* give(const Json& json) {
+  answer = json.str();
+  return answer.c_str();
+}
+
+const char* failure(std::string_view why) {
+  return give(Json().open('{').field("error", why).close('}'));
+}
+
+const char* actionName(ui::Action a) {
+  switch (a) {
+    case ui::Action::Nuevo:
+      return "nuevo";
+    case ui::Action::Abrir:
+      return "abrir";
+    case ui::Action::Guardar:
+      return "guardar";
+    case ui::Action::Resolver:
+      return "resolver";
+    case ui::Action::Imprimir:
+      return "imprimir";
+    case ui::Action::Ayuda:
+      return "ayuda";
+    case ui::Action::Gohome:
+      return "gohome";
+    case ui::Action::Volver:
+      return "volver";
+    case ui::Action::Minimizar:
+      return "minimizar";
+    case ui::Action::Cerrar:
+      return "cerrar";
+    case ui::Action::Show:
+      return "show";
+    case ui::Action::None:
+      break;
+  }
+  return "none";
+}
+
+const char* kindName(ui::ControlKind k) {
+  switch (k) {
+    case ui::ControlKind::Label:
+      return "label";
+    case ui::ControlKind::TextBox:
+      return "textbox";
+    case ui::ControlKind::ReportBox:
+      return "report";
+  }
+  return "label";
+}
+
+void write(Json& j, const ui::Control& c) {
+  j.open('{')
+      .field("kind", kindName(c.kind))
+      .field("name", c.name)
+      .field("text", c.text)
+      .field("toolTip", c.toolTip)
+      .field("buddy", c.buddy)
+      .field("row", c.row)
+      .field("column", c.column)
+      .field("width", c.width)
+      .field("height", c.height)
+      .field("visible", c.visible)
+      .close('}');
+}
+
+void write(Json& j, const ui::Command& c) {
+  j.open('{')
+      .field("name", c.name)
+      .field("toolTip", c.toolTip)
+      .field("caption", c.caption)
+      .field("picture", c.picture)
+      .field("action", actionName(c.action))
+      .field("target", c.target)
+      .field("hides", c.hides)
+      .field("enabled", c.enabled)
+      .field("size", c.size)
+      .close('}');
+}
+
+template <class T>
+void writeList(Json& j, std::string_view key, const std::vector<T>& items) {
+  j.key(key).open('[');
+  for (const T& item : items) write(j, item);
+  j.close(']');
+}
+
+void write(Json& j, const ui::Description& d) {
+  j.open('{').field("name", d.name).field("heading", d.heading).field("intro", d.intro);
+  j.key("titleLabel");
+  write(j, d.titleLabel);
+  j.key("titleField");
+  write(j, d.titleField);
+  writeList(j, "controls", d.controls);
+  writeList(j, "chrome", d.chrome);
+  writeList(j, "commands", d.commands);
+  j.close('}');
+}
+
+const char* cerrarName(nav::Cerrar c) {
+  switch (c) {
+    case nav::Cerrar::None:
+      return "none";
+    case nav::Cerrar::Unload:
+      return "unload";
+    case nav::Cerrar::EndProcess:
+      return "end";
+  }
+  return "none";
+}
+
+const char* kindName(nav::Kind k) {
+  switch (k) {
+    case nav::Kind::Start:
+      return "start";
+    case nav::Kind::MainMenu:
+      return "main";
+    case nav::Kind::SectionMenu:
+      return "section";
+    case nav::Kind::Entry:
+      return "entry";
+    case nav::Kind::Solution:
+      return "solution";
+    case nav::Kind::ChartPrint:
+      return "chart";
+  }
+  return "entry";
+}
+
+bool described(std::string_view screen) {
+  const CatalogueEntry* model = findModel(std::string(screen));
+  return model && model->form && model->screen == screen;
+}
+
+char hexDigit(unsigned v) { return "0123456789ABCDEF"[v & 15]; }
+
+std::string hexColor(unsigned rgb) {
+  std::string s = "#";
+  for (int shift = 20; shift >= 0; shift -= 4) s += hexDigit(rgb >> shift);
+  return s;
+}
+
+// The advance of a UTF-8 text in ems, from the measured code points.
+double emWidth(const std::string& utf8) {
+  double width = 0;
+  for (std::size_t i = 0; i < utf8.size();) {
+    const auto lead = static_cast<unsigned char>(utf8[i]);
+    unsigned code = lead;
+    int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
+    if (extra) code = lead & (0x3F >> extra);
+    for (++i; extra-- > 0 && i < utf8.size(); ++i)
+      code = (code << 6) | (static_cast<unsigned char>(utf8[i]) & 0x3F);
+    width += code < ems.size() ? ems[code] : averageEm;
+  }
+  return width;
+}
+
+void writeLaidOut(Json& j, std::string_view key, const Report& report) {
+  const double zone = kZoneColumns * averageEm;
+  j.key(key).open('[');
+  for (const LaidOutLine& line : layout(report, zone, emWidth)) {
+    j.open('[');
+    for (const PlacedText& piece : line)
+      j.open('{').field("x", piece.x).field("text", piece.text).close('}');
+    j.close(']');
+  }
+  j.close(']');
+}
+
+EntryForm* form(const char* screen) {
+  auto it = loaded.find(std::string_view(screen));
+  return it == loaded.end() ? nullptr : it->second.get();
+}
+
+const char* fieldsOf(const EntryForm& f) {
+  Json j;
+  j.open('{');
+  std::string text;
+  auto add = [&](const ui::Control& c) {
+    if (c.kind == ui::ControlKind::TextBox && f.text(c.name, text)) j.field(c.name, text);
+  };
+  add(f.entry().titleField);
+  for (const ui::Control& c : f.entry().controls) add(c);
+  return give(j.close('}'));
+}
+
+const char* runtimeError(const std::exception& e) {
+  const RuntimeError error = platformError(e);
+  Json j;
+  j.open('{').key("error").open('{');
+  j.field("number", error.number())
+      .field("title", ui::kRuntimeErrorTitle)
+      .field("text", ui::runtimeErrorText(error.number(), error.what()));
+  return give(j.close('}').close('}'));
+}
+
+}  // namespace
+}  // namespace vorel::web
+
+using namespace vorel;
+using namespace vorel::web;
+
+extern "C" {
+
+const char* vorel_tree() {
+  Json j;
+  j.open('{').key("screens").open('[');
+  for (const nav::ScreenInfo& s : nav::screens()) {
+    j.open('{')
+        .field("name", s.name)
+        .field("kind", kindName(s.kind))
+        .field("caption", s.caption)
+        .field("entry", s.entry)
+        .field("volver", s.volver)
+        .field("cerrar", cerrarName(s.cerrar))
+        .field("stays", s.resolverStays)
+        .field("help", nav::helpPage(s.name))
+        .field("color", hexColor(ui::sectionColor(s.entry.empty() ? s.name : s.entry)))
+        .field("described", described(s.name) || described(s.entry));
+    j.key("solutions").open('[');
+    for (const std::string& solution : s.solutions) j.value(solution);
+    j.close(']');
+    writeList(j, "chrome", ui::chrome(s));
+    j.close('}');
+  }
+  j.close(']');
+  j.key("start");
+  write(j, ui::startScreen());
+  j.key("menus").open('{');
+  for (const nav::MenuInfo& m : nav::menus()) {
+    j.key(m.name);
+    write(j, ui::menu(m, described));
+  }
+  j.close('}');
+  j.field("errorTitle", ui::kErrorTitle);
+  return give(j.close('}'));
+}
+
+const char* vorel_load(const char* screen) {
+  auto fresh = newEntryForm(screen);
+  if (!fresh) return failure("not described");
+  EntryForm& f = *(loaded[screen] = std::move(fresh));
+  Json j;
+  j.open('{').key("entry");
+  write(j, f.entry());
+  j.key("solution");
+  write(j, f.solution());
+  j.close('}');
+  std::string out = j.str();
+  out.pop_back();
+  out += ",\"fields\":" + std::string(fieldsOf(f)) + "}";
+  answer = std::move(out);
+  return answer.c_str();
+}
+
+void vorel_unload(const char* screen) {
+  if (auto it = loaded.find(std::string_view(screen)); it != loaded.end()) loaded.erase(it);
+}
+
+int vorel_set(const char* screen, const char* control, const char* text) {
+  EntryForm* f = form(screen);
+  return f && f->setText(control, text);
+}
+
+const char* vorel_fields(const char* screen) {
+  EntryForm* f = form(screen);
+  return f ? fieldsOf(*f) : failure("not loaded");
+}
+
+const char* vorel_nuevo(const char* screen) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  f->nuevo();
+  return fieldsOf(*f);
+}
+
+const char* vorel_check(const char* screen) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  try {
+    Json j;
+    j.open('{').key("messages").open('[');
+    for (const Message& m : f->check())
+      j.open('{').field("text", m.text).field("focus", m.focus).close('}');
+    return give(j.close(']').close('}'));
+  } catch (const std::exception& e) {
+    return runtimeError(e);
+  }
+}
+
+const char* vorel_solve(const char* screen) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  try {
+    const Pages pages = f->solve();
+    Json j;
+    j.open('{');
+    writeLaidOut(j, "screen", pages.screen);
+    writeLaidOut(j, "page", pages.page);
+    j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
+    return give(j.close('}'));
+  } catch (const std::exception& e) {
+    return runtimeError(e);
+  }
+}
+
+const char* vorel_open(const char* screen, const char* bytes, int size) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  if (size >= 0 && static_cast<std::size_t>(size) <= kMaxProblemFileBytes)
+    f->abrir(std::string(bytes, static_cast<std::size_t>(size)));
+  return fieldsOf(*f);
+}
+
+const char* vorel_save(const char* screen) {
+  EntryForm* f = form(screen);
+  answer = f ? f->guardar() : std::string();
+  return answer.c_str();
+}
+
+int vorel_size() { return static_cast<int>(answer.size()); }
+
+void vorel_metrics(const float* widths) {
+  for (std::size_t i = 0; i < ems.size(); ++i) ems[i] = widths[i];
+  averageEm =
+      averageCharWidth([](const std::string& s) { return ems[static_cast<unsigned char>(s[0])]; });
+}
+}

@@ -1,0 +1,33 @@
+// The browser edition's calls into the core, built as WebAssembly. Texts go in
+// and out as UTF-8; answers are JSON, valid until the next call. Each loaded
+// entry screen keeps its fields here, as the desktop keeps them in its widgets.
+#pragma once
+
+extern "C" {
+
+// The screen tree: every screen with its chrome and navigation, the start
+// screen and the menus, described.
+const char* vorel_tree();
+// Loads an entry screen afresh, as its first show does: its description, its
+// solution screen's, and its fields. {"error"} where it is not described.
+const char* vorel_load(const char* screen);
+void vorel_unload(const char* screen);
+// A text box's text; false where the screen has no such box.
+int vorel_set(const char* screen, const char* control, const char* text);
+const char* vorel_fields(const char* screen);
+const char* vorel_nuevo(const char* screen);
+// Resolver's checks: {"messages": [{"text", "focus"}]}.
+const char* vorel_check(const char* screen);
+// The solution screen's activation: the report and the printed page, laid out
+// in zones ({"screen": [[{"x", "text"}]], "page": ..., "text", "pageText"}), or
+// {"error": {"number", "title", "text"}} for a run-time error.
+const char* vorel_solve(const char* screen);
+// abrir of a file's bytes (Windows-1252): the fields as they stand after it.
+const char* vorel_open(const char* screen, const char* bytes, int size);
+// guardar: the bytes of the file; vorel_size() gives their count.
+const char* vorel_save(const char* screen);
+int vorel_size();
+// The advances of the code points 0 to 255 in the report font, in ems; the
+// layout of reports measures with them (others take the average width).
+void vorel_metrics(const float* widths);
+}
