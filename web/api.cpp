@@ -258,7 +258,7 @@ const char* vorel_tree() {
     write(j, ui::menu(m, described));
   }
   j.close('}');
-  j.field("errorTitle", ui::kErrorTitle);
+  j.field("errorTitle", ui::kErrorTitle).field("helpTitle", ui::kHelpTitle);
   return give(j.close('}'));
 }
 
@@ -346,9 +346,10 @@ const char* vorel_save(const char* screen) {
 
 int vorel_size() { return static_cast<int>(answer.size()); }
 
-void vorel_metrics(const float* widths) {
+double vorel_metrics(const float* widths) {
   for (std::size_t i = 0; i < ems.size(); ++i) ems[i] = widths[i];
   averageEm =
       averageCharWidth([](const std::string& s) { return ems[static_cast<unsigned char>(s[0])]; });
+  return averageEm;
 }
 }

@@ -29,5 +29,6 @@ const char* vorel_save(const char* screen);
 int vorel_size();
 // The advances of the code points 0 to 255 in the report font, in ems; the
 // layout of reports measures with them (others take the average width).
-void vorel_metrics(const float* widths);
+// Gives the font's average character width in ems: a zone is 14 of them.
+double vorel_metrics(const float* widths);
 }

@@ -1,0 +1,211 @@
+// The desk: one instance of each screen, shown, hidden or unloaded by name as
+// on the desktop. The page shows the screen shown last that is still visible;
+// minimised screens wait in the bar below. The core keeps each loaded entry
+// screen's fields.
+import { el } from './dom.mjs';
+import { messageBox, showHelp } from './dialogs.mjs';
+import { paintReport, clearReport, printPage, widestLine } from './report.mjs';
+import { startScreen, menuScreen, entryScreen, solutionScreen, showFields } from './screens.mjs';
+
+const START_MS = 2000;
+
+export class Desk {
+  constructor(core, { desk, bar, printView, filePicker, averageEm }) {
+    this.core = core;
+    this.tree = core.tree();
+    this.info = new Map(this.tree.screens.map((s) => [s.name, s]));
+    this.places = { desk, bar, printView, filePicker };
+    this.averageEm = averageEm;
+    this.loaded = new Map();  // name -> { element, pages }
+    this.visible = [];        // shown and not hidden, the last on top
+    this.minimised = new Set();
+  }
+
+  // AInicio for two seconds, then the main menu.
+  start() {
+    this.show('AInicio');
+    this.startTimer = setTimeout(() => {
+      this.hide('AInicio');
+      this.show('APrincipal');
+    }, START_MS);
+  }
+
+  // -- the screens' lifecycle ------------------------------------------------
+
+  load(name) {
+    if (this.loaded.has(name)) return this.loaded.get(name);
+    const info = this.info.get(name);
+    if (!info) return null;
+    const press = (command) => this.run(() => this.press(name, command));
+    let element;
+    if (info.kind === 'start') element = startScreen(info, this.tree.start);
+    else if (info.kind === 'main' || info.kind === 'section') element = menuScreen(info, this.tree.menus[name], press);
+    else if (info.kind === 'entry') {
+      const form = this.core.load(name);
+      if (form.error) return null;
+      element = entryScreen(info, form.entry, form.fields, press,
+        (control, text) => this.core.set(name, control, text));
+      this.loaded.set(name, { element, solution: form.solution });
+      return this.loaded.get(name);
+    } else if (info.kind === 'solution') {
+      const entry = this.load(info.entry);
+      if (!entry) return null;
+      element = solutionScreen(info, entry.solution, press);
+    } else return null;
+    this.loaded.set(name, { element });
+    return this.loaded.get(name);
+  }
+
+  show(name) {
+    const screen = this.load(name);
+    if (!screen) return;
+    this.minimised.delete(name);
+    this.visible = this.visible.filter((n) => n !== name).concat(name);
+    this.render();
+    this.activate(name);
+  }
+
+  hide(name) {
+    this.visible = this.visible.filter((n) => n !== name);
+    this.minimised.delete(name);
+    this.render();
+  }
+
+  unload(name) {
+    this.hide(name);
+    if (this.info.get(name)?.kind === 'entry') this.core.unload(name);
+    this.loaded.delete(name);
+    this.render();
+  }
+
+  // Leaving the app: every screen goes, and the page says so.
+  end() {
+    clearTimeout(this.startTimer);
+    for (const name of [...this.loaded.keys()]) this.unload(name);
+    this.render();
+  }
+
+  // A run-time error: its box, then the app starts again from the start screen.
+  async runtimeError(error) {
+    await messageBox(error.title, error.text, { kind: 'fatal' });
+    this.end();
+    this.start();
+  }
+
+  // Runs a command; a run-time error reported by the core ends it.
+  async run(command) {
+    try {
+      await command();
+    } catch (error) {
+      if (error.runtime) await this.runtimeError(error.runtime);
+      else throw error;
+    }
+  }
+
+  // Form_Activate: a solution screen computes and paints afresh.
+  activate(name) {
+    const info = this.info.get(name);
+    if (info.kind !== 'solution') return;
+    const screen = this.loaded.get(name);
+    const box = screen.element.querySelector('.informe');
+    clearReport(box);
+    const solved = this.core.solve(info.entry);
+    if (solved.error) {
+      this.runtimeError(solved.error);
+      return;
+    }
+    screen.pages = solved;
+    paintReport(box, solved, this.averageEm);
+  }
+
+  render() {
+    const top = [...this.visible].reverse().find((n) => !this.minimised.has(n));
+    const { desk, bar } = this.places;
+    const shown = top ? this.loaded.get(top).element : el('div', { className: 'vacio' },
+      el('p', { textContent: 'Vorel está cerrado.' }),
+      el('button', { type: 'button', className: 'aceptar', textContent: 'Abrir Vorel',
+        onclick: () => this.start() }));
+    if (desk.firstElementChild !== shown) desk.replaceChildren(shown);
+    bar.replaceChildren(...[...this.minimised].map((name) => el('button', {
+      type: 'button', className: 'minimizada', textContent: this.info.get(name).caption.trim() || name,
+      onclick: () => { this.minimised.delete(name); this.visible = this.visible.filter((n) => n !== name).concat(name); this.render(); },
+    })));
+    document.title = top ? `${this.info.get(top).caption.trim() || 'Vorel'} · Vorel` : 'Vorel';
+  }
+
+  // -- commands --------------------------------------------------------------
+
+  async press(name, command) {
+    const info = this.info.get(name);
+    switch (command.action) {
+      case 'show':  // a menu's picture: the main menu hides first, section menus show first
+        if (command.hides === 'APrincipal') this.hide(command.hides);
+        if (command.target) this.show(command.target);
+        if (command.hides !== 'APrincipal') this.hide(command.hides);
+        return;
+      case 'ayuda': return showHelp(info.help, this.tree.helpTitle);
+      case 'gohome': this.show('APrincipal'); return this.hide(name);
+      case 'volver': this.show(info.volver); return this.hide(name);
+      case 'minimizar': this.minimised.add(name); return this.render();
+      case 'cerrar': return info.cerrar === 'end' ? this.end() : this.unload(name);
+      case 'nuevo': return this.showFields(name, this.core.nuevo(name));
+      case 'abrir': return this.abrir(name);
+      case 'guardar': return this.guardar(name);
+      case 'resolver': return this.resolver(name, info);
+      case 'imprimir': return this.imprimir(name);
+      default: return undefined;
+    }
+  }
+
+  showFields(name, fields) {
+    showFields(this.loaded.get(name).element, fields);
+  }
+
+  // Resolver: every message of the checks in turn, focus on its control;
+  // with none, the solution screen.
+  async resolver(name, info) {
+    const answer = this.core.check(name);
+    if (answer.error) throw { runtime: answer.error };
+    const element = this.loaded.get(name).element;
+    for (const message of answer.messages) {
+      if (message.focus) element.querySelector(`[name="${CSS.escape(message.focus)}"]`)?.focus();
+      await messageBox(this.tree.errorTitle, message.text);
+    }
+    if (answer.messages.length) return;
+    const solution = info.solutions[0];
+    if (!info.stays) this.hide(name);
+    this.show(solution);
+  }
+
+  // abrir: the browser's file picker; the file is read as it is on disk.
+  // Cancel, or a file that cannot be read, ends silently.
+  abrir(name) {
+    const picker = this.places.filePicker;
+    picker.value = '';
+    picker.onchange = async () => {
+      const file = picker.files[0];
+      if (!file) return;
+      const bytes = new Uint8Array(await file.arrayBuffer());
+      this.showFields(name, this.core.open(name, bytes));
+    };
+    picker.click();
+  }
+
+  // guardar: the file the desktop writes, offered as a download named after
+  // the problem's title.
+  guardar(name) {
+    const bytes = this.core.save(name);
+    const title = this.loaded.get(name).element.querySelector('.titulo input').value;
+    const link = el('a', {
+      href: URL.createObjectURL(new Blob([bytes], { type: 'application/octet-stream' })),
+      download: title || 'Problema',
+    });
+    link.click();
+    setTimeout(() => URL.revokeObjectURL(link.href), 10000);
+  }
+
+  imprimir(name) {
+    const { pages } = this.loaded.get(name);
+    if (pages) printPage(this.places.printView, pages.page, pages.pageText, widestLine(pages.page));
+  }
+}

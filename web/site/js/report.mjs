@@ -1,0 +1,67 @@
+// Reports in zones: the core lays the lines out in ems of the report font
+// (Arial, whose metrics Liberation Sans and Arimo share); here they are placed
+// in pixels, on the screen at 8.25 pt and on paper at 12 pt.
+import { el } from './dom.mjs';
+
+export const FONT = 'Arial, "Liberation Sans", Arimo, sans-serif';
+const SCREEN_PX = 11;
+const PAGE_PX = 16;
+const LINE = 1.15;  // the font's line spacing, in ems
+
+// Measures the report font once and hands its advances to the core.
+export async function measureReportFont(core) {
+  await document.fonts.load(`100px ${FONT}`);
+  const context = document.createElement('canvas').getContext('2d');
+  context.font = `100px ${FONT}`;
+  const widths = [];
+  for (let code = 0; code < 256; code += 1) {
+    widths.push(code < 32 || (code >= 127 && code < 160) ? 0
+      : context.measureText(String.fromCharCode(code)).width / 100);
+  }
+  return core.metrics(widths);
+}
+
+function paint(target, lines, px) {
+  target.replaceChildren(...lines.map((line) => el('div', { className: 'linea' },
+    line.map((piece) => el('span', {
+      textContent: piece.text, style: `left: ${(piece.x * px).toFixed(2)}px`,
+    })))));
+  target.style.fontSize = `${px}px`;
+}
+
+// Paints a solution's report on its box, sized for the model's largest report.
+export function paintReport(box, solved, averageEm) {
+  const page = box.querySelector('.hoja') ?? box.appendChild(el('div', { className: 'hoja' }));
+  paint(page, solved.screen, SCREEN_PX);
+  page.style.width = `${Math.ceil(averageEm * SCREEN_PX * Number(box.dataset.columns)) + 24}px`;
+  page.style.height = `${Math.ceil(LINE * SCREEN_PX * Number(box.dataset.lines)) + 8}px`;
+  box.dataset.text = solved.text;  // what a copy takes, and what tests read
+}
+
+export function clearReport(box) {
+  box.querySelector('.hoja')?.replaceChildren();
+  delete box.dataset.text;
+}
+
+// Imprimir: the printed page in the print view, then the browser's print
+// dialog (a printer, or a PDF). The type is made just small enough for the
+// widest line to fit the paper, as on the desktop.
+export function printPage(view, lines, pageText, widestEm) {
+  const printableWidth = 718;  // A4 less 10 mm margins, in CSS pixels
+  const px = Math.min(PAGE_PX, printableWidth / Math.max(widestEm, 1));
+  paint(view, lines, px);
+  view.dataset.text = pageText;
+  window.print();
+}
+
+// The widest line of a laid-out report, in ems, measured in the page font.
+export function widestLine(lines) {
+  const context = document.createElement('canvas').getContext('2d');
+  context.font = `100px ${FONT}`;
+  let widest = 0;
+  for (const line of lines) {
+    const last = line[line.length - 1];
+    if (last) widest = Math.max(widest, last.x + context.measureText(last.text).width / 100);
+  }
+  return widest;
+}
