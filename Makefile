@@ -3,13 +3,15 @@
 BUILD ?= build
 FUZZ_BUILD ?= build-fuzz
 BENCH_BUILD ?= build-bench
+WEB_BUILD ?= build-web
 JOBS ?= $(shell nproc)
 FUZZ_SECONDS ?= 20
 FUZZ_RUNS ?= 1000000
 FUZZ_CORPUS ?= fuzz-corpus
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test fuzz fuzz-build fuzz-models bench screenshots package clean
+.PHONY: all deps configure build run test fuzz fuzz-build fuzz-models bench screenshots package web \
+  test-web clean
 
 all: build
 
@@ -28,7 +30,21 @@ run: configure
 
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+	@$(MAKE) --no-print-directory test-web
 	@$(MAKE) --no-print-directory fuzz
+
+# The command line as WebAssembly for node (Debian's emscripten; its link step
+# needs Debian's acorn): $(WEB_BUILD)/vorel-report.js and .wasm.
+web: deps
+	@NODE_PATH=/usr/share/nodejs emcmake cmake -S . -B $(WEB_BUILD) -G Ninja \
+	  -DCMAKE_BUILD_TYPE=Release -DVOREL_GUI=OFF -DVOREL_TESTS=OFF -DVOREL_WEB=ON \
+	  -DVOREL_WERROR=ON > /dev/null
+	@NODE_PATH=/usr/share/nodejs cmake --build $(WEB_BUILD) -j $(JOBS)
+
+# Every example of every model through the WebAssembly command line, against
+# the golden texts of the native one.
+test-web: web
+	@node --test web/tests/
 
 # Optimised, so the sanitizers see ten times more inputs in the same time.
 fuzz-build: configure
@@ -62,4 +78,4 @@ screenshots: build
 	@scripts/screenshots.sh $(BUILD)
 
 clean:
-	rm -rf $(BUILD) $(FUZZ_BUILD) $(BENCH_BUILD)
+	rm -rf $(BUILD) $(FUZZ_BUILD) $(BENCH_BUILD) $(WEB_BUILD)

@@ -11,7 +11,8 @@ namespace vorel::cli {
 
 // Replaces this process with vorel-pdf (beside this program, or where it is
 // installed) when this build cannot write PDF itself; returns where it can,
-// or where vorel-pdf is not to be found.
+// or where vorel-pdf is not to be found. A build that can do neither (the
+// WebAssembly one) says so on stderr and exits with status 2.
 void handOverPdf(char** argv);
 
 // Writes the printed page, and its chart if it has one. False with a reason

@@ -1,6 +1,9 @@
 #include "frame/arith.h"
 
-#include <charconv>
+#include <locale.h>
+#include <stdlib.h>
+
+#include <cerrno>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -50,21 +53,20 @@ bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Parses a canonical number text (sign, digits, ".", digits, "e", sign,
-// digits) that the callers have already assembled.
+// digits) that the callers have already assembled. strtod_l under the "C"
+// locale: correctly rounded, and "." whatever locale the process runs in (the
+// desktop program's toolkit sets the user's, where "," may be the mark).
 double parseCanonical(const std::string& s) {
   if (s.empty()) return 0;
-  const char* first = s.data();
-  if (*first == '+') ++first;
-  double value = 0;
-  auto [ptr, ec] = std::from_chars(first, s.data() + s.size(), value);
-  if (ec == std::errc::result_out_of_range) {
-    // Overflow is an error; underflow quietly gives zero, as the platform did.
-    std::size_t e = s.find('e');
-    bool negativeExponent = e != std::string::npos && e + 1 < s.size() && s[e + 1] == '-';
-    if (negativeExponent) return 0;
-    raise(err::Overflow);
-  }
-  if (ec != std::errc() || ptr == first) return 0;
+  static const locale_t classic = newlocale(LC_ALL_MASK, "C", locale_t{});
+  errno = 0;
+  char* end = nullptr;
+  const double value = strtod_l(s.c_str(), &end, classic);
+  if (end == s.c_str()) return 0;
+  // Overflow is an error; underflow quietly gives zero, as the platform did.
+  // A tiny value that still has a subnormal form keeps it.
+  if (std::isinf(value)) raise(err::Overflow);
+  if (errno == ERANGE && value == 0) return 0;
   return value;
 }
 

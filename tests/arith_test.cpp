@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
 
 #include "frame/arith.h"
 
@@ -59,6 +60,32 @@ TEST(Val, ReadsLongestLeadingNumberWithPointOnly) {
 
 TEST(Val, BeyondDoubleRangeIsOverflow) {
   EXPECT_EQ(errorOf([] { Val("1e400"); }), err::Overflow);
+}
+
+// The nearest Double, ties to even, up to the last digit typed; the largest
+// Double is still read, the next representable step beyond it is not.
+TEST(Val, RoundsCorrectlyUpToTheEdgesOfDoubleRange) {
+  EXPECT_EQ(Val("9007199254740993"), 9007199254740992.0);
+  EXPECT_EQ(Val("9007199254740993.000000000000000000001"), 9007199254740994.0);
+  EXPECT_EQ(Val("0.1"), 0.1);
+  EXPECT_EQ(Val("1.797693134862315807e308"), std::numeric_limits<double>::max());
+  EXPECT_EQ(errorOf([] { Val("1.797693134862315808e308"); }), err::Overflow);
+  EXPECT_EQ(errorOf([] { Val("-1e309"); }), err::Overflow);
+}
+
+// Below the normal range a value keeps its subnormal form; only what rounds
+// to nothing underflows, to a plain zero, whether or not an exponent was typed.
+TEST(Val, UnderflowGivesSubnormalOrPlainZero) {
+  EXPECT_EQ(Val("1e-310"), 1e-310);
+  EXPECT_EQ(Val("-2.2250738585072011e-308"), -2.2250738585072011e-308);
+  EXPECT_EQ(Val("4.9e-324"), std::numeric_limits<double>::denorm_min());
+  EXPECT_EQ(Val("2.4703282292062328e-324"), std::numeric_limits<double>::denorm_min());
+  EXPECT_EQ(Val("2.4703282292062327e-324"), 0);
+  EXPECT_FALSE(std::signbit(Val("-1e-400")));
+  EXPECT_TRUE(std::signbit(Val("-0")));
+  const std::string tiny = "0." + std::string(400, '0') + "1";
+  EXPECT_EQ(errorOf([&] { EXPECT_EQ(Val(tiny), 0); }), 0);
+  EXPECT_EQ(errorOf([&] { EXPECT_EQ(Val(tiny + "e5"), 0); }), 0);
 }
 
 TEST(IsNumeric, FollowsTheLocaleDecimalMark) {
