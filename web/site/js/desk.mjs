@@ -4,7 +4,7 @@
 // screen's fields.
 import { el } from './dom.mjs';
 import { messageBox, showHelp } from './dialogs.mjs';
-import { paintReport, clearReport, printPage, widestLine } from './report.mjs';
+import { paintReport, clearReport, printPage } from './report.mjs';
 import { startScreen, menuScreen, entryScreen, solutionScreen, showFields } from './screens.mjs';
 
 const START_MS = 2000;
@@ -121,16 +121,34 @@ export class Desk {
   render() {
     const top = [...this.visible].reverse().find((n) => !this.minimised.has(n));
     const { desk, bar } = this.places;
-    const shown = top ? this.loaded.get(top).element : el('div', { className: 'vacio' },
-      el('p', { textContent: 'Vorel está cerrado.' }),
-      el('button', { type: 'button', className: 'aceptar', textContent: 'Abrir Vorel',
-        onclick: () => this.start() }));
+    const shown = top ? this.loaded.get(top).element : this.emptyDesk();
     if (desk.firstElementChild !== shown) desk.replaceChildren(shown);
     bar.replaceChildren(...[...this.minimised].map((name) => el('button', {
-      type: 'button', className: 'minimizada', textContent: this.info.get(name).caption.trim() || name,
-      onclick: () => { this.minimised.delete(name); this.visible = this.visible.filter((n) => n !== name).concat(name); this.render(); },
+      type: 'button',
+      className: 'minimizada',
+      name,
+      textContent: this.info.get(name).caption.trim() || name,
+      onclick: () => this.restore(name),
     })));
     document.title = top ? `${this.info.get(top).caption.trim() || 'Vorel'} · Vorel` : 'Vorel';
+  }
+
+  // No window on view: the minimised ones wait in the bar; with none, the app
+  // is closed and can be opened again.
+  emptyDesk() {
+    if (this.minimised.size) return el('div', { className: 'vacio' });
+    return el('div', { className: 'vacio' },
+      el('p', { textContent: 'Vorel está cerrado.' }),
+      el('button', {
+        type: 'button', className: 'aceptar', textContent: 'Abrir Vorel', onclick: () => this.start(),
+      }));
+  }
+
+  // A minimised screen back on top, as it was.
+  restore(name) {
+    this.minimised.delete(name);
+    this.visible = this.visible.filter((n) => n !== name).concat(name);
+    this.render();
   }
 
   // -- commands --------------------------------------------------------------
@@ -182,12 +200,13 @@ export class Desk {
   abrir(name) {
     const picker = this.places.filePicker;
     picker.value = '';
-    picker.onchange = async () => {
-      const file = picker.files[0];
-      if (!file) return;
-      const bytes = new Uint8Array(await file.arrayBuffer());
-      this.showFields(name, this.core.open(name, bytes));
-    };
+    this.reading = new Promise((done) => {
+      picker.onchange = async () => {
+        const file = picker.files[0];
+        if (file) this.showFields(name, this.core.open(name, new Uint8Array(await file.arrayBuffer())));
+        done();
+      };
+    });
     picker.click();
   }
 
@@ -206,6 +225,6 @@ export class Desk {
 
   imprimir(name) {
     const { pages } = this.loaded.get(name);
-    if (pages) printPage(this.places.printView, pages.page, pages.pageText, widestLine(pages.page));
+    if (pages) printPage(this.places.printView, pages);
   }
 }

@@ -29,11 +29,13 @@ function paint(target, lines, px) {
   target.style.fontSize = `${px}px`;
 }
 
-// Paints a solution's report on its box, sized for the model's largest report.
+// Paints a solution's report on its box, sized for the model's largest report
+// and at least for this one.
 export function paintReport(box, solved, averageEm) {
   const page = box.querySelector('.hoja') ?? box.appendChild(el('div', { className: 'hoja' }));
   paint(page, solved.screen, SCREEN_PX);
-  page.style.width = `${Math.ceil(averageEm * SCREEN_PX * Number(box.dataset.columns)) + 24}px`;
+  const widest = Math.max(averageEm * Number(box.dataset.columns), widestLine(solved.screen));
+  page.style.width = `${Math.ceil(widest * SCREEN_PX) + 24}px`;
   page.style.height = `${Math.ceil(LINE * SCREEN_PX * Number(box.dataset.lines)) + 8}px`;
   box.dataset.text = solved.text;  // what a copy takes, and what tests read
 }
@@ -46,15 +48,15 @@ export function clearReport(box) {
 // Imprimir: the printed page in the print view, then the browser's print
 // dialog (a printer, or a PDF). The type is made just small enough for the
 // widest line to fit the paper, as on the desktop.
-export function printPage(view, lines, pageText, widestEm) {
+export function printPage(view, solved) {
   const printableWidth = 718;  // A4 less 10 mm margins, in CSS pixels
-  const px = Math.min(PAGE_PX, printableWidth / Math.max(widestEm, 1));
-  paint(view, lines, px);
-  view.dataset.text = pageText;
+  const px = Math.min(PAGE_PX, printableWidth / Math.max(widestLine(solved.page), 1));
+  paint(view, solved.page, px);
+  view.dataset.text = solved.pageText;
   window.print();
 }
 
-// The widest line of a laid-out report, in ems, measured in the page font.
+// The widest line of a laid-out report, in ems of the report font.
 export function widestLine(lines) {
   const context = document.createElement('canvas').getContext('2d');
   context.font = `100px ${FONT}`;
