@@ -4,6 +4,7 @@ BUILD ?= build
 FUZZ_BUILD ?= build-fuzz
 BENCH_BUILD ?= build-bench
 WEB_BUILD ?= build-web
+WEB_PORT ?= 8080
 JOBS ?= $(shell nproc)
 FUZZ_SECONDS ?= 20
 FUZZ_RUNS ?= 1000000
@@ -11,7 +12,7 @@ FUZZ_CORPUS ?= fuzz-corpus
 CMAKE_FLAGS ?=
 
 .PHONY: all deps configure build run test fuzz fuzz-build fuzz-models bench screenshots package web \
-  test-web clean
+  web-deps test-web serve-web clean
 
 all: build
 
@@ -41,10 +42,19 @@ web: deps
 	  -DVOREL_WERROR=ON > /dev/null
 	@NODE_PATH=/usr/share/nodejs cmake --build $(WEB_BUILD) -j $(JOBS)
 
-# Every example of every model through the WebAssembly command line, against
-# the golden texts of the native one.
-test-web: web
+# The browser tests' driver, playwright-core from npm, pointed at Debian's
+# chromium (it downloads no browser).
+web-deps: deps
+	@[ -d web/node_modules/playwright-core ] || npm ci --prefix web --no-audit --no-fund --silent
+
+# Every example of every model through the WebAssembly command line against
+# the golden texts of the native one; the site in headless chromium.
+test-web: web web-deps
 	@node --test web/tests/
+
+# The site on http://127.0.0.1:$(WEB_PORT)/ until stopped.
+serve-web: web
+	@node web/serve.mjs $(WEB_BUILD)/site $(WEB_PORT)
 
 # Optimised, so the sanitizers see ten times more inputs in the same time.
 fuzz-build: configure
@@ -74,8 +84,9 @@ package: build
 	@cd $(BUILD) && cpack -G DEB > /dev/null && ls vorel_*.deb
 	@lintian --fail-on error $(BUILD)/vorel_*.deb
 
-screenshots: build
+screenshots: build web web-deps
 	@scripts/screenshots.sh $(BUILD)
+	@node web/tests/screenshots.mjs screenshots/web
 
 clean:
 	rm -rf $(BUILD) $(FUZZ_BUILD) $(BENCH_BUILD) $(WEB_BUILD)

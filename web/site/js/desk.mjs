@@ -59,6 +59,7 @@ export class Desk {
   show(name) {
     const screen = this.load(name);
     if (!screen) return;
+    performance.mark(`vorel:${name}`);  // when each screen came on view, for the figures
     this.minimised.delete(name);
     this.visible = this.visible.filter((n) => n !== name).concat(name);
     this.render();
