@@ -5,8 +5,8 @@ import { serve } from '../serve.mjs';
 
 export const root = fileURLToPath(new URL('../..', import.meta.url));
 
-export async function openSite({ width = 1280, height = 900 } = {}) {
-  const server = await serve(`${root}/build-web/site`);
+export async function openSite({ width = 1280, height = 900, folder = `${root}/build-web/site` } = {}) {
+  const server = await serve(folder);
   const browser = await chromium.launch({
     executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
     args: ['--no-sandbox', '--disable-gpu', '--font-render-hinting=none'],
@@ -17,7 +17,7 @@ export async function openSite({ width = 1280, height = 900 } = {}) {
   page.on('pageerror', (error) => errors.push(error));
   const url = `http://127.0.0.1:${server.address().port}/`;
   return {
-    page, url, errors,
+    page, url, errors, context,
     async close() {
       await browser.close();
       server.close();
