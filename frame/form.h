@@ -27,13 +27,48 @@ struct ModelFunctions {
   Pages (*solveAndReport)(Fields&);
 };
 
+// A control bound to the fields: where its text, its visibility or its list
+// index live (each where the control has one).
+template <class Fields>
+struct Binding {
+  std::string control;
+  std::function<std::string*(Fields&)> text = {};
+  std::function<bool*(Fields&)> visible = {};
+  std::function<int*(Fields&)> index = {};
+};
+
+// A text box that shows a member.
+template <class Fields>
+Binding<Fields> textOf(std::string control, std::string Fields::*member) {
+  return {std::move(control), [member](Fields& f) { return &(f.*member); }};
+}
+
+// An edit of the fields that a control's action runs (a selector's click):
+// its messages, none when it went through.
+template <class Fields>
+using Edit = Messages (*)(Fields&);
+
 template <class Fields>
 struct Form {
   ui::Description entry;
   ui::Description solution;
-  // The text boxes and the members they show, the title field first.
-  std::vector<std::pair<std::string, std::string Fields::*>> texts;
+  std::vector<Binding<Fields>> bindings;  // the title field first
+  std::vector<std::pair<std::string, Edit<Fields>>> edits;
   ModelFunctions<Fields> model;
+
+  const Binding<Fields>* binding(std::string_view control) const {
+    for (const Binding<Fields>& b : bindings)
+      if (b.control == control) return &b;
+    return nullptr;
+  }
+};
+
+// What a bound control shows: null where it has no such property.
+struct ControlState {
+  const std::string& control;
+  const std::string* text;
+  const bool* visible;
+  const int* index;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -43,9 +78,14 @@ class EntryForm {
   virtual const ui::Description& entry() const = 0;
   virtual const ui::Description& solution() const = 0;
 
-  // The text of a text box; false where the screen has no such box.
-  virtual bool text(std::string_view control, std::string& text) const = 0;
+  // What every bound control shows, in the order of the bindings.
+  virtual void each(const std::function<void(const ControlState&)>& visit) = 0;
+  // A text box's text, a selector's list index; false where the screen has
+  // no such control.
   virtual bool setText(std::string_view control, std::string text) = 0;
+  virtual bool setIndex(std::string_view control, int index) = 0;
+  // Runs an edit of the fields by name; false where there is none.
+  virtual bool edit(std::string_view name, Messages& messages) = 0;
 
   virtual void nuevo() = 0;
   // abrir from the file's bytes: what is read before a failure stays.
@@ -65,18 +105,27 @@ class FieldsForm : public EntryForm {
   const ui::Description& entry() const override { return form_.entry; }
   const ui::Description& solution() const override { return form_.solution; }
 
-  bool text(std::string_view control, std::string& text) const override {
-    for (auto& [name, member] : form_.texts)
-      if (name == control) {
-        text = fields_.*member;
-        return true;
-      }
-    return false;
+  void each(const std::function<void(const ControlState&)>& visit) override {
+    for (const Binding<Fields>& b : form_.bindings)
+      visit({b.control, b.text ? b.text(fields_) : nullptr,
+             b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
-    for (auto& [name, member] : form_.texts)
-      if (name == control) {
-        fields_.*member = std::move(text);
+    const Binding<Fields>* b = form_.binding(control);
+    if (!b || !b->text) return false;
+    *b->text(fields_) = std::move(text);
+    return true;
+  }
+  bool setIndex(std::string_view control, int index) override {
+    const Binding<Fields>* b = form_.binding(control);
+    if (!b || !b->index) return false;
+    *b->index(fields_) = index;
+    return true;
+  }
+  bool edit(std::string_view name, Messages& messages) override {
+    for (auto& [editName, run] : form_.edits)
+      if (editName == name) {
+        messages = run(fields_);
         return true;
       }
     return false;

@@ -43,6 +43,8 @@ struct Command {
 enum class ControlKind {
   Label,      // a text
   TextBox,    // a field typed by the student
+  Selector,   // a list to choose from (a combo box)
+  Cell,       // a text box of a table
   ReportBox,  // the box a solution screen paints its report on
 };
 
@@ -52,13 +54,18 @@ struct Control {
   std::string text;     // a label's caption, a text box's preset
   std::string toolTip;  // a text box's tool-tip
   std::string buddy;    // a label that names a text box: that box's name
-  // The place on the screen's grid of fields (labels in column 0, boxes in
-  // column 1); the title row, the intro and the report box lie outside it.
+  // The place on a grid of the screen: `group` 0 is the grid of fields
+  // (labels in column 0, boxes in column 1), 1 the table below it (its row -1
+  // is a text above it); the title row, the intro and the report box lie
+  // outside both.
+  int group = 0;
   int row = 0, column = 0;
   // A text box's width in pixels at scale 1; a report box's in average
   // character widths, its height in lines.
   int width = 0, height = 0;
   bool visible = true;
+  std::vector<std::string> items;  // a selector's list
+  std::string edit;  // a selector: the edit of the fields its click runs (see Form::edits)
 };
 
 struct Description {

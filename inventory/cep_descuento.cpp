@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "inventory/pedido.h"
+#include "inventory/pedido_forms.h"
 
 namespace vorel::inventory {
 
@@ -205,9 +206,7 @@ Report printout(const DescuentoFields& f, const DescuentoResults& r) {
   return out;
 }
 
-Pages solveAndReport(DescuentoFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(DescuentoFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, DescuentoFields& f) {
   for (std::string* item : {&f.Titulo1, &f.D, &f.E, &f.A, &f.TS, &f.dias, &f.ipor})
@@ -230,9 +229,6 @@ void nuevo(DescuentoFields& f) {
   f.Titulo1 = titulo;
 }
 
-CatalogueEntry catalogueDescuento() {
-  return catalogued<DescuentoFields>("cep-descuento", "GI_CEPDescuento", "", exchange, check,
-                                     solveAndReport);
-}
+CatalogueEntry catalogueDescuento() { return catalogued("cep-descuento", descuentoForm()); }
 
 }  // namespace vorel::inventory

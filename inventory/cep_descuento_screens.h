@@ -2,26 +2,17 @@
 // table of cost intervals, and its solution GI_CEPDescuento_Solución.
 #pragma once
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <array>
-
 #include "inventory/cep_descuento.h"
 #include "inventory/pedido_screens.h"
 
 namespace vorel::inventory {
 
+// The entry screen: its fields, and below them the selector of intervals and
+// the table, drawn from the form's description.
 class DescuentoEntry : public PedidoEntry<DescuentoFields> {
  public:
   DescuentoEntry();
-  DescuentoFields fields() const override;
   void setFields(const DescuentoFields& f) override;
-
- private:
-  QComboBox* cmbIntervalos_;
-  std::array<QLabel*, kMaxIntervalos> Intervalo_{};
-  std::array<std::array<QLineEdit*, 3>, kMaxIntervalos> Tabla_{};  // A1 ... D3
 };
 
 void registerDescuentoScreens();

@@ -31,11 +31,11 @@ template <class F>
 Form<F> pedidoForm(std::string_view screen, const std::string& heading, std::string intro,
                    std::initializer_list<Campo<F>> campos, int columns, int lines) {
   Form<F> form;
-  form.texts.push_back({"Titulo1", &F::Titulo1});
+  form.bindings.push_back(textOf("Titulo1", &F::Titulo1));
   std::vector<ui::FieldLabel> labels;
   for (const Campo<F>& c : campos) {
     labels.push_back({c.name, c.label});
-    form.texts.push_back({c.name, c.member});
+    form.bindings.push_back(textOf(c.name, c.member));
   }
   form.entry = ui::fieldEntry(screen, heading, std::move(intro), "Titulo1", "Problema1", labels);
   form.solution =
@@ -98,9 +98,78 @@ const Form<RupturaFields>& rupturaForm() {
   return form;
 }
 
+namespace {
+
+ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
+                    int column) {
+  ui::Control c;
+  c.kind = kind;
+  c.name = std::move(name);
+  c.text = std::move(text);
+  c.group = group;
+  c.row = row;
+  c.column = column;
+  return c;
+}
+
+Messages intervalosClick(DescuentoFields& f) {
+  cmbIntervalosClick(f);
+  return {};
+}
+
+// Below the fields, the selector of how many intervals there are and the
+// table of intervals: a row each, its lower limit, upper limit and cost.
+Form<DescuentoFields> withIntervalos(Form<DescuentoFields> form) {
+  using ui::ControlKind;
+  using F = DescuentoFields;
+  auto& controls = form.entry.controls;
+  const int row = controls.back().row + 1;
+  ui::Control pregunta = control(ControlKind::Label, "",
+                                 "¿Cuántos costes de adquisición diferentes existen?", 0, row, 0);
+  pregunta.buddy = "cmbIntervalos";
+  controls.push_back(pregunta);
+  ui::Control selector = control(ControlKind::Selector, "cmbIntervalos", "", 0, row, 1);
+  selector.items = {"2", "3", "4"};
+  selector.width = 64;
+  selector.edit = "cmbIntervalos";
+  controls.push_back(selector);
+  form.bindings.push_back({"cmbIntervalos", {}, {}, [](F& f) { return &f.cmbIntervalos; }});
+  form.edits.push_back({"cmbIntervalos", intervalosClick});
+  controls.push_back(control(
+      ControlKind::Label, "Label2",
+      "Introducir el límite inferior y superior para cada intervalo de coste y el coste de "
+      "adquisición correspondiente (Nota: Si no existe límite superior introducir una cantidad lo "
+      "suficientemente grande)",
+      1, -1, 0));
+  const char* cabeceras[] = {"Límite  Inferior", "Límite superior", "Coste"};
+  for (int c = 0; c < 3; ++c) {
+    ui::Control head = control(ControlKind::Label, "", cabeceras[c], 1, 0, c + 1);
+    head.width = 110;
+    controls.push_back(head);
+  }
+  const char filas[] = {'A', 'B', 'C', 'D'};
+  for (int r = 0; r < kMaxIntervalos; ++r) {
+    const std::string intervalo = "Intervalo" + std::to_string(r + 1);
+    controls.push_back(
+        control(ControlKind::Label, intervalo, "Intervalo " + std::to_string(r + 1), 1, r + 1, 0));
+    form.bindings.push_back({intervalo, {}, [r](F& f) { return &f.Intervalo[r]; }});
+    for (int c = 0; c < 3; ++c) {
+      const std::string name = filas[r] + std::to_string(c + 1);
+      ui::Control cell = control(ControlKind::Cell, name, "", 1, r + 1, c + 1);
+      cell.width = 110;
+      controls.push_back(cell);
+      form.bindings.push_back({name, [r, c](F& f) { return &f.Tabla[r][c].text; },
+                               [r, c](F& f) { return &f.Tabla[r][c].visible; }});
+    }
+  }
+  return form;
+}
+
+}  // namespace
+
 const Form<DescuentoFields>& descuentoForm() {
   using F = DescuentoFields;
-  static const Form<F> form = pedidoForm<F>(
+  static const Form<F> form = withIntervalos(pedidoForm<F>(
       "GI_CEPDescuento", "Cantidad Económica de Pedido con Descuento",
       "El modelo de cantidad económica de pedido con descuentos responde al tipo de "
       "inventarios en el cual el coste unitario del producto varía en función del "
@@ -111,7 +180,7 @@ const Form<DescuentoFields>& descuentoForm() {
        {&F::ipor, "ipor", "Coste de Almacenamiento como % del coste de adquisición(i)"},
        {&F::TS, "TS", etiquetas::TS},
        {&F::dias, "dias", etiquetas::dias}},
-      80, 30);
+      80, 30));
   return form;
 }
 

@@ -1,7 +1,9 @@
 // The screens that the order-quantity models share: an entry screen drawn from
-// its model's form, its text boxes bound to the model's fields, and a solution
+// its model's form, its controls bound to the model's fields, and a solution
 // screen that reads them afresh and paints the model's report.
 #pragma once
+
+#include <QComboBox>
 
 #include "frame/form.h"
 #include "frame/gui/model_screens.h"
@@ -12,22 +14,48 @@ template <class Fields>
 class PedidoEntry : public gui::ModelEntry<Fields> {
  public:
   explicit PedidoEntry(const Form<Fields>& form)
-      : gui::ModelEntry<Fields>(form.entry), form_(form) {
-    for (auto& [name, member] : form.texts)
-      bindings_.bind(member, this->template findChild<QLineEdit*>(QString::fromStdString(name)));
-  }
+      : gui::ModelEntry<Fields>(form.entry), form_(form) {}
 
+  // Each bound control by its name: a text box's text and visibility, a
+  // label's visibility, a selector's list index.
   Fields fields() const override {
     Fields f;
-    bindings_.read(f);
+    for (const Binding<Fields>& b : form_.bindings) {
+      QWidget* w = control(b.control);
+      if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
+        *b.text(f) = box->text().toStdString();
+      if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
+        *b.index(f) = list->currentIndex();
+      if (w && b.visible) *b.visible(f) = !w->isHidden();
+    }
     return f;
   }
-  void setFields(const Fields& f) override { bindings_.write(f); }
+  void setFields(const Fields& given) override {
+    Fields f = given;
+    for (const Binding<Fields>& b : form_.bindings) {
+      QWidget* w = control(b.control);
+      if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
+        box->setText(QString::fromStdString(*b.text(f)));
+      if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
+        list->setCurrentIndex(*b.index(f));
+      if (w && b.visible) w->setVisible(*b.visible(f));
+    }
+  }
   const ModelFunctions<Fields>& modelo() const { return form_.model; }
+
+ protected:
+  // Runs one of the form's edits of the fields by name (a selector's click).
+  void runEdit(const std::string& name) {
+    for (auto& [editName, run] : form_.edits)
+      if (editName == name) this->edit([run = run](Fields& f) { return run(f); });
+  }
+  QWidget* control(const std::string& name) const {
+    return this->template findChild<QWidget*>(QString::fromStdString(name));
+  }
+  const Form<Fields>& form() const { return form_; }
 
  private:
   const Form<Fields>& form_;
-  gui::TextBindings<Fields> bindings_;
 };
 
 // The solution screen: every activation reads the entry screen's fields

@@ -58,8 +58,9 @@ TEST_F(WebApi, TheTreeHoldsEveryScreenAndGreysTheModelsNotDescribed) {
 TEST_F(WebApi, LoadingDescribesTheScreensAndStartsFromThePresets) {
   vorel_unload(kEoq);
   const std::string loaded = vorel_load(kEoq);
-  EXPECT_THAT(loaded, HasSubstr(R"("fields":{"Titulo1":"Problema1","D":"","E":"","A":"","TS":"")"
-                                R"(,"dias":"","P":""})"));
+  EXPECT_THAT(loaded, HasSubstr(R"("fields":{"Titulo1":{"text":"Problema1"},"D":{"text":""},)"
+                                R"("E":{"text":""},"A":{"text":""},"TS":{"text":""},)"
+                                R"("dias":{"text":""},"P":{"text":""}})"));
   EXPECT_THAT(loaded, HasSubstr(R"j("text":"Tiempo de suministro (en días)")j"));
   EXPECT_THAT(loaded, HasSubstr(R"("name":"Solucion1")"));
   EXPECT_THAT(std::string(vorel_load("PL_Simplex")), HasSubstr(R"("error")"));
@@ -88,8 +89,8 @@ TEST_F(WebApi, ChecksTellTheFirstFailureAndNuevoKeepsTheTitle) {
   EXPECT_EQ(std::string(vorel_check(kEoq)),
             R"({"messages":[{"text":"Valor del coste de emisión (E) no válido. Introduce un )"
             R"(nuevo valor entre 0 y 999.999.999","focus":""}]})");
-  EXPECT_EQ(std::string(vorel_nuevo(kEoq)),
-            R"({"Titulo1":"Mi problema","D":"","E":"","A":"","TS":"","dias":"","P":""})");
+  EXPECT_THAT(std::string(vorel_nuevo(kEoq)),
+              HasSubstr(R"({"Titulo1":{"text":"Mi problema"},"D":{"text":""},"E":{"text":""})"));
 }
 
 TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
@@ -122,6 +123,25 @@ TEST_F(WebApi, ARunTimeErrorComesBackAsTheBoxThePlatformShows) {
   EXPECT_EQ(std::string(vorel_solve(kEoq)),
             R"({"error":{"number":6,"title":"Vorel","text":"Error en tiempo de ejecución )"
             R"('6':\n\nDesbordamiento"}})");
+}
+
+// The discount table: a selector whose click shows the rows of the chosen
+// number of intervals, cells with their visibility, row headings.
+TEST(WebApiTable, TheSelectorsClickShowsTheChosenRows) {
+  const char* screen = "GI_CEPDescuento";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"("kind":"selector","name":"cmbIntervalos")"));
+  EXPECT_THAT(loaded, HasSubstr(R"("items":["2","3","4"])"));
+  EXPECT_THAT(loaded, HasSubstr(R"("cmbIntervalos":{"index":0},"Intervalo1":{"visible":true},)"));
+  EXPECT_THAT(loaded, HasSubstr(R"("C1":{"text":"","visible":false})"));
+  ASSERT_TRUE(vorel_set_index(screen, "cmbIntervalos", 1));
+  EXPECT_FALSE(vorel_set_index(screen, "D", 1));
+  const std::string edited = vorel_edit(screen, "cmbIntervalos");
+  EXPECT_THAT(edited, HasSubstr(R"({"messages":[],"fields":{)"));
+  EXPECT_THAT(edited, HasSubstr(R"("Intervalo3":{"visible":true},"C1":{"text":"","visible":true})"));
+  EXPECT_THAT(edited, HasSubstr(R"("Intervalo4":{"visible":false},"D1":{"text":"","visible":false})"));
+  EXPECT_THAT(std::string(vorel_edit(screen, "Rediseñar")), HasSubstr(R"("error")"));
+  vorel_unload(screen);
 }
 
 TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {

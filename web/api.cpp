@@ -69,6 +69,10 @@ const char* kindName(ui::ControlKind k) {
       return "label";
     case ui::ControlKind::TextBox:
       return "textbox";
+    case ui::ControlKind::Selector:
+      return "selector";
+    case ui::ControlKind::Cell:
+      return "cell";
     case ui::ControlKind::ReportBox:
       return "report";
   }
@@ -87,7 +91,11 @@ void write(Json& j, const ui::Control& c) {
       .field("width", c.width)
       .field("height", c.height)
       .field("visible", c.visible)
-      .close('}');
+      .field("group", c.group)
+      .field("edit", c.edit);
+  j.key("items").open('[');
+  for (const std::string& item : c.items) j.value(item);
+  j.close(']').close('}');
 }
 
 void write(Json& j, const ui::Command& c) {
@@ -198,16 +206,31 @@ EntryForm* form(const char* screen) {
   return it == loaded.end() ? nullptr : it->second.get();
 }
 
-const char* fieldsOf(const EntryForm& f) {
-  Json j;
+// What every bound control of the screen shows: {"D": {"text": "1000"},
+// "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0}, ...}.
+void writeFields(Json& j, EntryForm& f) {
   j.open('{');
-  std::string text;
-  auto add = [&](const ui::Control& c) {
-    if (c.kind == ui::ControlKind::TextBox && f.text(c.name, text)) j.field(c.name, text);
-  };
-  add(f.entry().titleField);
-  for (const ui::Control& c : f.entry().controls) add(c);
-  return give(j.close('}'));
+  f.each([&j](const ControlState& c) {
+    j.key(c.control).open('{');
+    if (c.text) j.field("text", *c.text);
+    if (c.visible) j.field("visible", *c.visible);
+    if (c.index) j.field("index", *c.index);
+    j.close('}');
+  });
+  j.close('}');
+}
+
+const char* fieldsOf(EntryForm& f) {
+  Json j;
+  writeFields(j, f);
+  return give(j);
+}
+
+void writeMessages(Json& j, const Messages& messages) {
+  j.key("messages").open('[');
+  for (const Message& m : messages)
+    j.open('{').field("text", m.text).field("focus", m.focus).close('}');
+  j.close(']');
 }
 
 const char* runtimeError(const std::exception& e) {
@@ -271,12 +294,9 @@ const char* vorel_load(const char* screen) {
   write(j, f.entry());
   j.key("solution");
   write(j, f.solution());
-  j.close('}');
-  std::string out = j.str();
-  out.pop_back();
-  out += ",\"fields\":" + std::string(fieldsOf(f)) + "}";
-  answer = std::move(out);
-  return answer.c_str();
+  j.key("fields");
+  writeFields(j, f);
+  return give(j.close('}'));
 }
 
 void vorel_unload(const char* screen) {
@@ -293,6 +313,28 @@ const char* vorel_fields(const char* screen) {
   return f ? fieldsOf(*f) : failure("not loaded");
 }
 
+int vorel_set_index(const char* screen, const char* control, int index) {
+  EntryForm* f = form(screen);
+  return f && f->setIndex(control, index);
+}
+
+const char* vorel_edit(const char* screen, const char* name) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  try {
+    Messages messages;
+    if (!f->edit(name, messages)) return failure("no such edit");
+    Json j;
+    j.open('{');
+    writeMessages(j, messages);
+    j.key("fields");
+    writeFields(j, *f);
+    return give(j.close('}'));
+  } catch (const std::exception& e) {
+    return runtimeError(e);
+  }
+}
+
 const char* vorel_nuevo(const char* screen) {
   EntryForm* f = form(screen);
   if (!f) return failure("not loaded");
@@ -305,10 +347,9 @@ const char* vorel_check(const char* screen) {
   if (!f) return failure("not loaded");
   try {
     Json j;
-    j.open('{').key("messages").open('[');
-    for (const Message& m : f->check())
-      j.open('{').field("text", m.text).field("focus", m.focus).close('}');
-    return give(j.close(']').close('}'));
+    j.open('{');
+    writeMessages(j, f->check());
+    return give(j.close('}'));
   } catch (const std::exception& e) {
     return runtimeError(e);
   }

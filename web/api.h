@@ -14,7 +14,14 @@ const char* vorel_load(const char* screen);
 void vorel_unload(const char* screen);
 // A text box's text; false where the screen has no such box.
 int vorel_set(const char* screen, const char* control, const char* text);
+// A selector's list index; false where the screen has no such selector.
+int vorel_set_index(const char* screen, const char* control, int index);
+// What every bound control shows: {"D": {"text"}, "A1": {"text", "visible"},
+// "cmbIntervalos": {"index"}, "Intervalo1": {"visible"}}.
 const char* vorel_fields(const char* screen);
+// Runs an edit of the fields by name (a selector's click): {"messages",
+// "fields"}.
+const char* vorel_edit(const char* screen, const char* name);
 const char* vorel_nuevo(const char* screen);
 // Resolver's checks: {"messages": [{"text", "focus"}]}.
 const char* vorel_check(const char* screen);

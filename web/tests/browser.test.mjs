@@ -25,6 +25,7 @@ const MODELS = [
   { id: 'cep', screen: 'GI_CantidadEconómicaPedido', path: ['Image6', 'Image3', 'Image3'] },
   { id: 'cep-gradual', screen: 'GI_CEPGradual', path: ['Image6', 'Image3', 'Image9'] },
   { id: 'cep-ruptura', screen: 'GI_CEPRuptura', path: ['Image6', 'Image3', 'Image8'] },
+  { id: 'cep-descuento', screen: 'GI_CEPDescuento', path: ['Image6', 'Image3', 'Image7'] },
 ];
 const EOQ = MODELS[0];
 
@@ -136,6 +137,20 @@ for (const model of MODELS) {
   });
 }
 
+test('the intervals selector shows the rows it chooses, keeping what they hold', async () => {
+  const model = MODELS.find((m) => m.id === 'cep-descuento');
+  await openModel(model);
+  const row = (letter) => page.locator(`#escritorio input[name="${letter}1"]`);
+  assert.deepEqual([await row('B').isVisible(), await row('C').isVisible()], [true, false]);
+  await page.selectOption('select[name="cmbIntervalos"]', '4');
+  await row('D').fill('5000');
+  await page.selectOption('select[name="cmbIntervalos"]', '2');
+  assert.deepEqual([await row('C').isVisible(), await row('D').isVisible()], [false, false]);
+  await page.selectOption('select[name="cmbIntervalos"]', '4');
+  assert.equal(await row('D').inputValue(), '5000');
+  assert.equal(await page.locator('#escritorio [name="Intervalo4"]').isVisible(), true);
+});
+
 test('guardar gives the bytes of the file the desktop writes', async () => {
   await openModel(EOQ);
   const example = `${root}/examples/cep/limites.txt`;
@@ -215,9 +230,14 @@ test('the window commands: volver, gohome, minimizar, cerrar, nuevo and ayuda', 
 test('on a phone the menus and the entry screen stay inside the width', async () => {
   await page.setViewportSize({ width: 360, height: 740 });
   try {
-    await openModel(EOQ);
-    for (const screen of [EOQ.screen]) {
-      assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= 360), screen);
+    for (const model of [EOQ, MODELS.find((m) => m.id === 'cep-descuento')]) {
+      await openModel(model);
+      assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= 360), model.screen);
+      const table = page.locator('#escritorio .tabla');
+      if (await table.count()) {  // the table scrolls inside its panel, within the screen
+        const box = await table.boundingBox();
+        assert.ok(box.x >= 0 && box.x + box.width <= 360, 'the table panel stays on the screen');
+      }
     }
     await press(page, 'gohome');
     assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= 360), 'APrincipal');

@@ -11,6 +11,7 @@ const MODELS = [
   { id: 'cep', screen: 'GI_CantidadEconómicaPedido', path: ['Image6', 'Image3', 'Image3'], example: 'libro' },
   { id: 'cep-gradual', screen: 'GI_CEPGradual', path: ['Image6', 'Image3', 'Image9'], example: 'fase-creciente' },
   { id: 'cep-ruptura', screen: 'GI_CEPRuptura', path: ['Image6', 'Image3', 'Image8'], example: 'libro' },
+  { id: 'cep-descuento', screen: 'GI_CEPDescuento', path: ['Image6', 'Image3', 'Image7'], example: 'libro' },
 ];
 
 for (const width of [1280, 390]) {

@@ -24,7 +24,10 @@ export async function loadCore() {
     unload: (screen) => m.ccall('vorel_unload', null, ['string'], [screen]),
     set: (screen, control, value) =>
       m.ccall('vorel_set', 'number', ['string', 'string', 'string'], [screen, control, value]) === 1,
+    setIndex: (screen, control, index) =>
+      m.ccall('vorel_set_index', 'number', ['string', 'string', 'number'], [screen, control, index]) === 1,
     fields: (screen) => json('vorel_fields', screen),
+    edit: (screen, name) => json('vorel_edit', screen, name),
     nuevo: (screen) => json('vorel_nuevo', screen),
     check: (screen) => json('vorel_check', screen),
     solve: (screen) => json('vorel_solve', screen),

@@ -43,8 +43,10 @@ export class Desk {
     else if (info.kind === 'entry') {
       const form = this.core.load(name);
       if (form.error) return null;
-      element = entryScreen(info, form.entry, form.fields, press,
-        (control, text) => this.core.set(name, control, text));
+      element = entryScreen(info, form.entry, form.fields, press, {
+        typed: (control, text) => this.core.set(name, control, text),
+        chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
+      });
       this.loaded.set(name, { element, solution: form.solution });
       return this.loaded.get(name);
     } else if (info.kind === 'solution') {
@@ -176,6 +178,25 @@ export class Desk {
     }
   }
 
+  // A selector's click: the choice, then the edit it runs on the fields.
+  async choose(name, control, index, edit) {
+    this.core.setIndex(name, control, index);
+    if (!edit) return;
+    const answer = this.core.edit(name, edit);
+    if (answer.error) throw { runtime: answer.error };
+    await this.tell(name, answer.messages);
+    this.showFields(name, answer.fields);
+  }
+
+  // Each message in turn, focus on its control.
+  async tell(name, messages) {
+    const element = this.loaded.get(name).element;
+    for (const message of messages) {
+      if (message.focus) element.querySelector(`[name="${CSS.escape(message.focus)}"]`)?.focus();
+      await messageBox(this.tree.errorTitle, message.text);
+    }
+  }
+
   showFields(name, fields) {
     showFields(this.loaded.get(name).element, fields);
   }
@@ -185,11 +206,7 @@ export class Desk {
   async resolver(name, info) {
     const answer = this.core.check(name);
     if (answer.error) throw { runtime: answer.error };
-    const element = this.loaded.get(name).element;
-    for (const message of answer.messages) {
-      if (message.focus) element.querySelector(`[name="${CSS.escape(message.focus)}"]`)?.focus();
-      await messageBox(this.tree.errorTitle, message.text);
-    }
+    await this.tell(name, answer.messages);
     if (answer.messages.length) return;
     const solution = info.solutions[0];
     if (!info.stays) this.hide(name);

@@ -50,21 +50,47 @@ export function menuScreen(info, d, press) {
     el('div', { className: `opciones ${main ? 'principal' : 'seccion'}` }, choices));
 }
 
-// An entry screen: its text boxes report every change through `typed`.
-export function entryScreen(info, d, fields, press, typed) {
-  const box = (c) => el('input', {
-    type: 'text', id: `${d.name}-${c.name}`, name: c.name, value: fields[c.name] ?? '',
-    title: c.toolTip || undefined, autocomplete: 'off', spellcheck: false,
-    oninput: (e) => typed(c.name, e.target.value),
-  });
-  const caption = (c) => el('label', { htmlFor: `${d.name}-${c.buddy}`, textContent: c.text });
-  const grid = el('div', { className: 'campos' },
-    d.controls.map((c) => (c.kind === 'textbox' ? box(c) : caption(c))));
-  const title = el('div', { className: 'titulo' }, caption(d.titleLabel), box(d.titleField));
+// An entry screen: its text boxes report every change through `typed`, its
+// selectors through `chosen`; `showFields` puts the fields on it.
+export function entryScreen(info, d, fields, press, { typed, chosen }) {
+  const id = (name) => `${d.name}-${name}`;
+  const place = (c) => (c.group === 1 && c.row >= 0
+    ? `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}` : undefined);
+  const draw = (c) => {
+    switch (c.kind) {
+      case 'textbox':
+      case 'cell':
+        return el('input', {
+          type: 'text', id: id(c.name), name: c.name, className: c.kind, title: c.toolTip || undefined,
+          autocomplete: 'off', spellcheck: false, style: place(c),
+          'aria-label': c.kind === 'cell' ? c.name : undefined,
+          oninput: (e) => typed(c.name, e.target.value),
+        });
+      case 'selector':
+        return el('select', {
+          id: id(c.name), name: c.name, onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
+        }, c.items.map((item) => el('option', { textContent: item })));
+      default:
+        if (c.buddy) return el('label', { htmlFor: id(c.buddy), textContent: c.text });
+        return el(c.row < 0 ? 'p' : 'span', {
+          className: c.row < 0 ? 'intro' : c.row === 0 ? 'cabecera' : 'rotulo',
+          name: c.name || undefined, textContent: c.text, style: place(c),
+        });
+    }
+  };
+  const group = (n) => d.controls.filter((c) => c.group === n).map(draw);
+  const table = group(1);
+  const title = el('div', { className: 'titulo' }, draw(d.titleLabel), draw(d.titleField));
   const commands = el('div', { className: 'ordenes' },
     d.commands.map((c) => commandPicture(c, press, { captioned: true })));
-  return windowFrame(info, d.heading, press,
-    d.intro && el('p', { className: 'intro', textContent: d.intro }), title, grid, commands);
+  const screen = windowFrame(info, d.heading, press,
+    d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
+    el('div', { className: 'campos' }, group(0)),
+    table.filter((e) => e.tagName === 'P'),
+    table.length > 0 && el('div', { className: 'tabla', role: 'group' }, table.filter((e) => e.tagName !== 'P')),
+    commands);
+  showFields(screen, fields);
+  return screen;
 }
 
 // A solution screen: the report box (painted by report.mjs) and Imprimir.
@@ -78,10 +104,14 @@ export function solutionScreen(info, d, press) {
     el('div', { className: 'ordenes' }, d.commands.map((c) => commandPicture(c, press, { captioned: true }))));
 }
 
-// Writes the fields' texts back into their boxes (after nuevo or abrir).
+// Puts what each bound control shows on the screen: a text box's text, a
+// control's visibility, a selector's choice (after loading, nuevo, abrir, an edit).
 export function showFields(screenElement, fields) {
-  for (const [name, value] of Object.entries(fields)) {
-    const input = screenElement.querySelector(`input[name="${CSS.escape(name)}"]`);
-    if (input) input.value = value;
+  for (const [name, state] of Object.entries(fields)) {
+    const control = screenElement.querySelector(`[name="${CSS.escape(name)}"]`);
+    if (!control) continue;
+    if ('text' in state) control.value = state.text;
+    if ('index' in state) control.selectedIndex = state.index;
+    if ('visible' in state) control.hidden = !state.visible;
   }
 }
