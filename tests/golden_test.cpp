@@ -131,6 +131,10 @@ TEST(CommandLine, WritesThePrintedPageAsPdf) {
   pclose(words);
   EXPECT_GT(right, 500);
   EXPECT_LE(right, 595.3 - 6 / 25.4 * 72);
+  // A disk that takes nothing: the failed write is told, not passed over.
+  const std::string full = transcript("cep '" + example + "' --pdf /dev/full");
+  EXPECT_EQ(full.substr(0, 11), "[salida 2]\n");
+  EXPECT_NE(full.find("\nNo se pudo escribir el PDF: /dev/full\n"), std::string::npos) << full;
 #else
   EXPECT_NE(out.find("[salida 2]\nEsta versión de vorel-report se construyó sin la biblioteca"),
             std::string::npos);
