@@ -21,6 +21,6 @@ int main(int argc, char** argv) {
   registerAllScreens();
   screens.show("AInicio");
   const int status = app.exec();
-  finishPrinterDocument();
+  finishPrinterDocumentAtTheEnd();
   return status;
 }

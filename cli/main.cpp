@@ -27,8 +27,10 @@ void usage(std::ostream& out) {
          "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n"
          "  --grafico G el gráfico G de un modelo con varios (abajo)\n\n"
          "Estado de salida (el mayor de los ficheros): 0 informe impreso; 1 comprobaciones\n"
-         "no superadas (cada mensaje en una línea de stderr); 2 fichero ilegible; 3 error en\n"
-         "tiempo de ejecución; 4 el método no termina (la pantalla seguiría calculando sin fin).\n";
+         "no superadas (cada mensaje en una línea de stderr); 2 fichero ilegible, PDF que no\n"
+         "se pudo escribir, o gráfico que el problema no deja abrir; 3 error en tiempo de\n"
+         "ejecución (también --print o --pdf de una pantalla cuyo Imprimir lo da); 4 el método\n"
+         "no termina (la pantalla seguiría calculando sin fin).\n";
   bool any = false;
   for (const auto& m : catalogue()) {
     if (m.presses.empty()) continue;
@@ -46,8 +48,10 @@ void usage(std::ostream& out) {
 
 // Solves one file and prints its report; returns the exit status of that file.
 // `origin` heads the messages on stderr when several files are solved.
-int solve(const std::function<RunOutcome(const std::string&)>& run, const std::string& path,
-          const cli::Options& options, const std::string& origin) {
+// `printError` is the run-time error that Imprimir raises on the screen
+// reported (0 when it prints): --print and --pdf end in it, with no page.
+int solve(const std::function<RunOutcome(const std::string&)>& run, int printError,
+          const std::string& path, const cli::Options& options, const std::string& origin) {
   try {
     RunOutcome outcome = run(path);
     switch (outcome.status) {
@@ -60,6 +64,7 @@ int solve(const std::function<RunOutcome(const std::string&)>& run, const std::s
       default:
         break;
     }
+    if (printError != 0 && (options.print || !options.pdf.empty())) raise(printError);
     if (!options.pdf.empty()) {
       std::string error;
       if (!cli::writePdf(outcome.pages, options.pdf, error)) {
@@ -78,6 +83,9 @@ int solve(const std::function<RunOutcome(const std::string&)>& run, const std::s
     std::cerr << origin << "El método no termina: se detuvo tras " << fileRunStepBudget()
               << " pasos.\n";
     return 4;
+  } catch (const Unreachable& refusal) {
+    std::cerr << origin << refusal.message << "\n";
+    return 2;
   } catch (const std::exception& e) {
     const RuntimeError error = platformError(e);
     std::cerr << origin << "Error " << error.number() << ": " << error.what() << "\n";
@@ -108,6 +116,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   auto run = model->run;
+  int printError = 0;
   if (!options.grafico.empty()) {
     auto view = std::find_if(model->views.begin(), model->views.end(),
                              [&](const CatalogueView& v) { return v.name == options.grafico; });
@@ -117,13 +126,14 @@ int main(int argc, char** argv) {
       return 2;
     }
     run = view->run;
+    printError = view->printError;
   }
   if (!options.pdf.empty()) cli::handOverPdf(argv);  // returns only where this program writes PDF
   const bool several = options.files.size() > 1;
   int status = 0;
   for (const std::string& path : options.files) {
     if (several) std::cout << "==> " << path << " <==\n" << std::flush;
-    status = std::max(status, solve(run, path, options, several ? path + ": " : ""));
+    status = std::max(status, solve(run, printError, path, options, several ? path + ": " : ""));
     std::cout.flush();
   }
   return status;

@@ -21,6 +21,9 @@ namespace vorel {
 struct CatalogueView {
   std::string name, help;
   std::function<RunOutcome(const std::string& path)> run;
+  // The run-time error that Imprimir on that screen raises before printing
+  // anything; 0 when it prints.
+  int printError = 0;
 };
 
 struct CatalogueEntry {

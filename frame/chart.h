@@ -9,7 +9,8 @@
 
 namespace vorel {
 
-// The value axis: automatic, or a fixed minimum, maximum and major division.
+// The value axis: automatic, or a fixed minimum and maximum parted into a
+// number of major divisions (5: five intervals, six labels).
 struct ValueAxis {
   bool automatic = true;
   double minimum = 0, maximum = 0, majorDivision = 0;

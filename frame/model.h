@@ -55,6 +55,12 @@ enum class RunStatus { Solved = 0, CheckFailed = 1, Unreadable = 2, RuntimeError
 // budget its caller gave it is spent. The desktop program gives no budget; the
 // command-line program does, and exits with status 4.
 struct DoesNotEnd {};
+// Thrown by a file run asked for a solution screen that the problem gives the
+// user no way to open (a chart whose button its means chart hides); the
+// message says why.
+struct Unreachable {
+  std::string message;
+};
 inline constexpr long kCommandLineStepBudget = 1'000'000;
 // The budget a file run gives: kCommandLineStepBudget, unless a caller (the
 // fuzzer, which runs many files) sets a smaller one.

@@ -221,15 +221,45 @@ bool openProblem(const std::string& path, const Exchange& exchange) {
 
 bool saveProblem(const std::string& path, const Exchange& exchange) {
   if (path.empty() || openFiles().count(key(path))) return false;
-  auto out = std::make_unique<std::ofstream>(path, std::ios::binary | std::ios::trunc);
+  namespace fs = std::filesystem;
+  // The items go to a new file beside the one chosen, which takes its name
+  // only once every byte is on the disk: a write that fails half-way (a full
+  // disk, a run-time error in the items) leaves the file that was there.
+  const fs::path target(path);
+  std::error_code error;
+  fs::path temporary;
+  for (int n = 0; n < 1000 && temporary.empty(); ++n) {
+    fs::path candidate = target;
+    candidate.replace_filename("." + target.filename().string() + "." + std::to_string(n) + ".tmp");
+    if (!fs::exists(candidate, error) && !error) temporary = candidate;
+  }
+  if (temporary.empty()) return false;
+  auto out = std::make_unique<std::ofstream>(temporary, std::ios::binary | std::ios::trunc);
   if (!*out) return false;
-  ProblemFile file = ProblemFile::forWriting();
-  exchange(file);
-  *out << file.bytes();
-  out->flush();
-  bool written = static_cast<bool>(*out);
+  bool written = false;
+  try {
+    ProblemFile file = ProblemFile::forWriting();
+    exchange(file);
+    *out << file.bytes();
+    out->flush();
+    written = static_cast<bool>(*out);
+  } catch (...) {
+    out.reset();
+    fs::remove(temporary, error);
+    throw;
+  }
+  if (written) {
+    fs::rename(temporary, target, error);
+    written = !error;
+  }
+  if (!written) {
+    out.reset();
+    fs::remove(temporary, error);
+    return false;
+  }
+  // The handle stays open, now on the file under its own name.
   openFiles()[key(path)] = std::move(out);
-  return written;
+  return true;
 }
 
 void closeAllProblemFiles() { openFiles().clear(); }

@@ -62,7 +62,9 @@ bool openProblem(const std::string& path, const Exchange& exchange);
 
 // guardar: writes the items and flushes them, and keeps the file open for the
 // rest of the process, so a later openProblem or saveProblem of the same path
-// fails. False when the file could not be written.
+// fails. The bytes go to a new file beside it, renamed over the old one once
+// all are written, so a write that fails leaves what was there. False when
+// the file could not be written.
 bool saveProblem(const std::string& path, const Exchange& exchange);
 
 // Forget the files kept open (tests only: a new process starts with none).

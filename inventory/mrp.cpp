@@ -413,15 +413,26 @@ Report report(const MrpFields& f, const MrpRecords& r) {
   return out;
 }
 
-// The page shows the weeks four at a time, so a record fits the width of
-// the paper.
-Report printout(const MrpFields& f, const MrpRecords& r) {
+// The page is the solution form as Imprimir prints it: the heading "MRP",
+// the heads of the article columns and, right of them, "Semanas" over every
+// week; then each article's head cells and its five rows, each row label on
+// the left and the weeks in the same columns as their numbers. As on the
+// form, the weeks start right of the T.S. column, clear of every row label.
+Report printout(const MrpFields&, const MrpRecords& r) {
   Report out = pageHead("MRP");
-  out.heading(f.Titulo1);
-  constexpr int kBand = 4;
-  for (int from = 0; from < std::max(r.weeks, 1); from += kBand) {
-    records(out, r, from, std::min(r.weeks, from + kBand));
-    out.line(Z, " ");
+  out.line(Z, "Artículo", Z, "Stock", Z, "S.S.", Z, "T.S.", Z, "Semanas");
+  out.cont(Z, Z, Z, Z, Z);
+  for (int j = 0; j < r.weeks; ++j) out.cont(std::to_string(j + 1), Z);
+  out.line();
+  for (int k = 0; k < r.articles; ++k) {
+    const std::size_t c = at(k);
+    out.line(Z, r.ArtS[c], Z, r.Stock[c], Z, r.StockSeg[c], Z, r.TSS[c]);
+    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
+    for (int row = 0; row < 5; ++row) {
+      out.cont(Z, kRowLabels[row], Z, Z, Z);
+      for (int j = 0; j < r.weeks; ++j) out.cont((*rows[row])[c][at(j)], Z);
+      out.line();
+    }
   }
   return out;
 }

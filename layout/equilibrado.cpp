@@ -41,16 +41,20 @@ Precedencias precedencias(const EquilibradoFields& f, int N) {
   return P;
 }
 
-// The precedence column of each element (index a), 0 for one never placed.
-// An element goes one column after the highest of its predecessors once they
-// all stand in a column; the passes end when one places nothing, so
-// predecessors that close a cycle, or name element 0, leave their elements
-// at 0 instead of passing for ever.
-std::vector<int> columnas(const Precedencias& P) {
+// The precedence column of each element (index a). An element goes one
+// column after the highest of its predecessors once they all stand in a
+// column, pass after pass until every element is placed. Predecessors that
+// close a cycle, or name element 0, leave elements that no pass can place, so
+// the passes never end: each pass is a step of the budget, and a pass that
+// places nothing leaves everything as it was, so the rest of the budget would
+// be spent without a change and DoesNotEnd is thrown at once.
+std::vector<int> columnas(const Precedencias& P, long stepBudget) {
   const int N = static_cast<int>(P.size()) - 1;
   std::vector<int> columna(static_cast<std::size_t>(N + 1), 0);
-  for (bool colocado = true; colocado;) {
-    colocado = false;
+  int sinColocar = N;
+  for (long pasos = 1; sinColocar > 0; ++pasos) {
+    if (pasos > stepBudget) throw DoesNotEnd{};
+    bool colocado = false;
     for (int a = 1; a <= N; ++a) {
       if (columna[a] != 0) continue;
       int alta = 0;
@@ -63,7 +67,9 @@ std::vector<int> columnas(const Precedencias& P) {
       if (!listas) continue;
       columna[a] = alta + 1;
       colocado = true;
+      --sinColocar;
     }
+    if (!colocado) throw DoesNotEnd{};
   }
   return columna;
 }
@@ -153,29 +159,16 @@ Messages check(const EquilibradoFields& f) {
   for (int i = 0; i < N; ++i)
     if (item(f.TiempoOperacion, i).text.empty())
       return {{"Debe introducir los tiempos de operacion", ""}};
-
-  // Every predecessor that the solution reads, shown or not, must name an
-  // activity of the line, and the precedences must leave no element unplaced.
-  for (int a = 1; a <= N; ++a)
-    for (int p = 0; p < kAnterioresPorActividad; ++p) {
-      const std::string& text = f.anterior(a, p).text;
-      if (!IsNumeric(text)) continue;
-      const double numero = std::nearbyint(Val(text));
-      if (!(numero >= 1 && numero <= N)) return {{kActividadIncorrecta, ""}};
-    }
-  const std::vector<int> columna = columnas(precedencias(f, N));
-  if (std::find(columna.begin() + 1, columna.end(), 0) != columna.end())
-    return {{kActividadIncorrecta, ""}};
   return {};
 }
 
-EquilibradoResults solve(const EquilibradoFields& f) {
+EquilibradoResults solve(const EquilibradoFields& f, long stepBudget) {
   EquilibradoResults r;
   r.N = selectorText(f.NumActividades, kMaxActividades);
   const int N = actividades(f);
   for (int a = 1; a <= N; ++a) r.Tiempo.push_back(Val(item(f.TiempoOperacion, a - 1).text));
   const Precedencias P = precedencias(f, N);
-  const std::vector<int> columna = columnas(P);
+  const std::vector<int> columna = columnas(P, stepBudget);
   r.Columna.assign(columna.begin() + 1, columna.end());
   r.NumColumnas = r.Columna.empty() ? 0 : *std::max_element(r.Columna.begin(), r.Columna.end());
 
@@ -183,7 +176,6 @@ EquilibradoResults solve(const EquilibradoFields& f) {
   r.DuracionAcumulada.assign(static_cast<std::size_t>(r.NumColumnas), 0);
   for (int a = 1; a <= N; ++a) {
     const int c = item(r.Columna, a - 1);
-    if (c == 0) continue;  // never placed: see columnas
     double& total = item(r.DuracionColumna, c - 1);
     total = checked(total + item(r.Tiempo, a - 1));
   }
@@ -219,8 +211,9 @@ Report printout(const EquilibradoFields& f, const EquilibradoResults& r) {
   return out;
 }
 
-Pages solveAndReport(EquilibradoFields& f) {
-  return solvedPages(f);
+Pages solveAndReport(EquilibradoFields& f, long stepBudget) {
+  const EquilibradoResults r = solve(f, stepBudget);
+  return {report(f, r), printout(f, r)};
 }
 
 void exchange(ProblemFile& file, EquilibradoFields& f) {
@@ -232,8 +225,9 @@ void exchange(ProblemFile& file, EquilibradoFields& f) {
 }
 
 CatalogueEntry catalogueEquilibrado() {
-  return catalogued<EquilibradoFields>("equilibrado", "Distribucion_Equlibrado", "", exchange,
-                                       check, solveAndReport);
+  return catalogued<EquilibradoFields>(
+      "equilibrado", "Distribucion_Equlibrado", "", exchange, check,
+      [](EquilibradoFields& f) { return solveAndReport(f, fileRunStepBudget()); });
 }
 
 }  // namespace vorel::facility

@@ -48,15 +48,17 @@ const std::array<std::string, 16>& numerosRomanos();
 
 void rediseñar(EquilibradoFields& f);  // RediseñarTabla
 void nuevo(EquilibradoFields& f);
-// Resolver: the first failure, or none. A predecessor that names no activity
-// of the line, or precedences that close a cycle, would leave elements that
-// no column can take; they are refused with the message of a wrong activity
-// number, once every other check has passed.
+// Resolver: the first failure, or none. Only the predecessor cells shown are
+// checked, for a number of an activity of the line or 0; a cycle, or a
+// predecessor 0, passes and leaves the solution without an end.
 Messages check(const EquilibradoFields& f);
-EquilibradoResults solve(const EquilibradoFields& f);
+// Places the elements in columns, pass by pass, each pass a step of
+// `stepBudget`; throws DoesNotEnd when the passes would never end (see
+// check). A predecessor in a hidden cell beyond the line is run-time error 9.
+EquilibradoResults solve(const EquilibradoFields& f, long stepBudget = kCommandLineStepBudget);
 Report report(const EquilibradoFields& f, const EquilibradoResults& r);    // Solucion1
 Report printout(const EquilibradoFields& f, const EquilibradoResults& r);  // Imprimir
-Pages solveAndReport(EquilibradoFields& f);
+Pages solveAndReport(EquilibradoFields& f, long stepBudget);
 void exchange(ProblemFile& file, EquilibradoFields& f);  // guardar and abrir
 
 }  // namespace vorel::facility

@@ -99,9 +99,19 @@ EquilibradoSolution::EquilibradoSolution()
     : SolutionScreen("Distribucion_Equilibrado_Solucion",
                      "Equilibrado de Líneas de Fabricación y Montaje", 128, 30) {}
 
+void EquilibradoSolution::formActivate() {
+  bool ended = false;
+  run([&] {
+    Solucion1()->Cls();
+    const EquilibradoFields f = entry<EquilibradoEntry>().fields();
+    ended = solveInSlices([&](long budget) { results_ = solve(f, budget); }, 1L << 12, 1L << 21);
+  });
+  if (ended) SolutionScreen::formActivate();
+}
+
 Pages EquilibradoSolution::compute() {
-  EquilibradoFields f = entry<EquilibradoEntry>().fields();
-  return solveAndReport(f);
+  const EquilibradoFields f = entry<EquilibradoEntry>().fields();
+  return {report(f, results_), printout(f, results_)};
 }
 
 void registerEquilibradoScreens() {

@@ -36,9 +36,15 @@ class EquilibradoSolution : public gui::SolutionScreen {
   Q_OBJECT
  public:
   EquilibradoSolution();
+  // Places the elements in slices of passes: precedences in a cycle never
+  // end, and the window stays alive until it is closed.
+  void formActivate() override;
 
  protected:
   Pages compute() override;
+
+ private:
+  EquilibradoResults results_;
 };
 
 void registerEquilibradoScreens();

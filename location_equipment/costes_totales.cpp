@@ -1,5 +1,7 @@
 #include "location_equipment/costes_totales.h"
 
+#include <algorithm>
+
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 
@@ -61,6 +63,9 @@ CostesDosResults solveDos(const CostesTotalesFields& f) {
   // The option with the lower fixed cost is the cheaper one below the crossing.
   r.below = c.CF[1] < c.CF[2] ? 1 : 2;
   r.above = 3 - r.below;
+  // Lines that meet at volume 0 (equal fixed costs) or below it part at every
+  // positive volume: the one with the lower variable cost is cheaper there.
+  if (!(r.x > 0)) r.above = c.CV[1] < c.CV[2] ? 1 : 2;
   return r;
 }
 
@@ -107,8 +112,14 @@ void body(Report& out, const CostesTotalesFields& f, const CostesDosResults& r) 
   out.line(Z, "  Solución al problema:  " + f.Titulo1);
   out.line(Z, std::string(84, '_') + "  ");
   out.line(Z, " ");
-  out.line(Z, "Para un volumen de producción comprendido entre 0 y ", Str(r.x), opcion(r.below));
-  out.line(Z, "Para un volumen de producción mayor a ", Str(r.x), opcion(r.above));
+  if (r.x > 0) {
+    out.line(Z, "Para un volumen de producción comprendido entre 0 y ", Str(r.x), opcion(r.below));
+    out.line(Z, "Para un volumen de producción mayor a ", Str(r.x), opcion(r.above));
+  } else {
+    // No crossing at a positive volume: one option for every volume above 0.
+    if (r.x < 0) out.line(Z, kNegativas);
+    out.line(Z, "Para un volumen de producción mayor a ", Str(0.0f), opcion(r.above));
+  }
   out.line(Z, " ");
   out.line(Z, "El valor para el que se igualan los costes de ambas opciones es ", Str(r.x));
 }
@@ -117,23 +128,36 @@ void body(Report& out, const CostesTotalesFields& f, const CostesTresResults& r)
   out.line(Z, " Solución al problema: " + f.Titulo1);
   out.line(Z, std::string(84, '_') + " ");
   out.line(Z, " ");
-  // The intervals in volume order; one that reaches below 0 gives, once, the
-  // line of negative production in place of its recommendation.
-  bool negativas = false;
-  auto interval = [&](std::initializer_list<float> bounds, auto&&... text) {
-    for (float b : bounds)
-      if (b < 0) {
-        if (!negativas) out.line(Z, kNegativas);
-        negativas = true;
-        return;
-      }
-    out.line(Z, text...);
-  };
+  // The intervals in volume order. With every crossing at or above 0 each
+  // stands as it is. A crossing below 0 gives, once, the line of negative
+  // production in place of the intervals that lie below 0; the interval
+  // that reaches across 0 is told from 0, with the option of least fixed
+  // cost, so that every positive volume has its recommendation.
   const std::string de = "Para un volumen de producción comprendido entre";
-  interval({r.L}, de + " 0 y", printed(r.L), opcion(r.hasta));
-  interval({r.L, r.M}, de, printed(r.L), "y", printed(r.M), opcion(r.entreLM));
-  interval({r.M, r.H}, de, printed(r.M), "y", printed(r.H), opcion(r.entreMH));
-  interval({r.H}, "Para un volumen de producción mayor a", printed(r.H), opcion(r.mayor));
+  const std::string mayorA = "Para un volumen de producción mayor a";
+  if (r.L >= 0 && r.M >= 0 && r.H >= 0) {
+    out.line(Z, de + " 0 y", printed(r.L), opcion(r.hasta));
+    out.line(Z, de, printed(r.L), "y", printed(r.M), opcion(r.entreLM));
+    out.line(Z, de, printed(r.M), "y", printed(r.H), opcion(r.entreMH));
+    out.line(Z, mayorA, printed(r.H), opcion(r.mayor));
+    return;
+  }
+  out.line(Z, kNegativas);
+  const struct {
+    float desde, hasta;
+    int opcion;
+  } tramos[] = {{r.L, r.M, r.entreLM}, {r.M, r.H, r.entreMH}};
+  for (const auto& t : tramos) {
+    if (!(t.hasta > 0)) continue;
+    if (t.desde < 0)
+      out.line(Z, de + " 0 y", printed(t.hasta), opcion(r.hasta));
+    else
+      out.line(Z, de, printed(t.desde), "y", printed(t.hasta), opcion(t.opcion));
+  }
+  if (r.H < 0)
+    out.line(Z, mayorA, printed(0.0f), opcion(r.mayor));
+  else
+    out.line(Z, mayorA, printed(r.H), opcion(r.mayor));
 }
 
 template <class Results>
@@ -176,9 +200,17 @@ Chart costChart(int options) {
 
 Chart chart(const CostesTotalesFields& f, const CostesDosResults& r) {
   // Both lines from volume 0 through their crossing to twice its volume.
+  // Lines that do not cross above 0 are drawn from 0 to twice the volume at
+  // which the dearer variable cost adds the higher fixed cost again, so they
+  // stand apart.
   const Costs c = costs(f);
   Chart out = costChart(2);
-  for (double v : {0.0, double(r.x), 2.0 * r.x}) {
+  double mitad = r.x;
+  if (!(r.x > 0)) {
+    const double fijo = std::max(c.CF[1], c.CF[2]), variable = std::max(c.CV[1], c.CV[2]);
+    mitad = variable > 0 ? std::max(1.0, fijo / variable) : 1.0;
+  }
+  for (double v : {0.0, mitad, 2.0 * mitad}) {
     std::vector<double> row;
     for (int o = 1; o <= 2; ++o) row.insert(row.end(), {v, Sng(c.CF[o] + c.CV[o] * v)});
     out.matrix.push_back(row);

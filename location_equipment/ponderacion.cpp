@@ -50,8 +50,6 @@ float sumaPonderada(const std::vector<double>& pesos, const std::vector<double>&
   return total;
 }
 
-bool igualesAlImprimir(float a, float b) { return Str(a) == Str(b); }
-
 std::vector<int> mejores(const std::vector<float>& puntuaciones) {
   std::vector<int> posiciones;
   if (puntuaciones.empty()) return posiciones;
@@ -59,7 +57,7 @@ std::vector<int> mejores(const std::vector<float>& puntuaciones) {
   for (float p : puntuaciones)
     if (p > mayor) mayor = p;
   for (std::size_t j = 0; j < puntuaciones.size(); ++j)
-    if (igualesAlImprimir(puntuaciones[j], mayor)) posiciones.push_back(static_cast<int>(j));
+    if (puntuaciones[j] == mayor) posiciones.push_back(static_cast<int>(j));
   return posiciones;
 }
 

@@ -32,11 +32,9 @@ Messages fueraDe(const Columna& columna, double menor, double mayor, const std::
 // total is rounded when stored, as the screens keep it.
 float sumaPonderada(const std::vector<double>& pesos, const std::vector<double>& valores);
 
-// Two scores tie when they print alike: sums of weights such as 0.1 differ in
-// their last binary digits by the order they were added in, and a student
-// who reads the same score twice is told of a tie.
-bool igualesAlImprimir(float a, float b);
-// The positions of the highest scores, in order; ties give several.
+// The positions of the highest scores, in order; scores equal to the highest
+// tie with it, and only those: two Single totals that differ are no tie even
+// when Str prints them alike.
 std::vector<int> mejores(const std::vector<float>& puntuaciones);
 
 // Val of every cell of a column.

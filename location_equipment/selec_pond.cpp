@@ -30,7 +30,7 @@ void cuerpo(Report& out, const SelecPondFields& f, const SelecPondResults& r) {
   out.line(Z, "PUNTUACIÓN Proyecto A = " + Str(r.PA) + " puntos");
   out.line(Z, "PUNTUACIÓN Proyecto B = " + Str(r.PB) + " puntos");
   out.line(Z, " ");
-  if (igualesAlImprimir(r.PA, r.PB)) {
+  if (r.PA == r.PB) {
     out.line(Z, "Por el Criterio de Ponderación de Factores ambas opciones poseen igual");
     out.line(Z, "puntuación, por lo que se elegirá una u otra indistintamente.");
   } else {
@@ -100,9 +100,7 @@ Report printout(const SelecPondFields& f, const SelecPondResults& r) {
   return out;
 }
 
-Pages solveAndReport(SelecPondFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(SelecPondFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, SelecPondFields& f) {
   file.text(f.Titulo1);

@@ -221,13 +221,24 @@ Pages solveAndReport(VariablesFields& f, Grafico g) {
   VariablesScreen medias;
   Painted painted = activate(Grafico::Medias, f, medias, title);
   if (g == Grafico::Medias) return {painted.report, printout(g, f, medias), medias.chart};
+  // The other charts open only through their buttons on the means chart.
+  if (g == Grafico::Desviaciones && !medias.ControlDesviaciones)
+    throw Unreachable{
+        "El gráfico de medias de este problema no muestra «Control de Desviaciones Típicas»: "
+        "el gráfico de desviaciones típicas no se puede abrir."};
+  if (g == Grafico::Recorridos && !medias.ControlRecorridos)
+    throw Unreachable{
+        "El gráfico de medias de este problema no muestra «Control de Recorridos» (solo aparece "
+        "con «Gráfico de Medias junto con Recorridos»): el gráfico de recorridos no se puede "
+        "abrir."};
   VariablesScreen other;
   painted = activate(g, f, other, title);
   return {painted.report, printout(g, f, other), other.chart};
 }
 
 // Resolver shows the means chart; the other two open from it, after its
-// activation has taken the samples outside the limits out of the entry.
+// activation has taken the samples outside the limits out of the entry, and
+// their Imprimir calls the printer dialog of an object never set.
 CatalogueEntry catalogueVariables() {
   CatalogueEntry entry = catalogued<VariablesFields>(
       "control-variables", "ControlCal_V", "", exchange, check,
@@ -239,13 +250,15 @@ CatalogueEntry catalogueVariables() {
          return runFromFile<VariablesFields>(path, exchange, check, [](VariablesFields& f) {
            return solveAndReport(f, Grafico::Desviaciones);
          });
-       }},
+       },
+       err::ObjectNotSet},
       {"recorridos", "el de recorridos (ControlCal_V_Sol3), abierto desde el de medias",
        [](const std::string& path) {
          return runFromFile<VariablesFields>(path, exchange, check, [](VariablesFields& f) {
            return solveAndReport(f, Grafico::Recorridos);
          });
-       }},
+       },
+       err::ObjectNotSet},
   };
   return entry;
 }

@@ -71,8 +71,8 @@ TEST(Equilibrado, ActivitiesEightToFourteenTakeRowsFiveToNine) {
   EXPECT_EQ(balance(f), "I I I I I I<II I<II I<II I<II I<II I<II I<II I<II II | 13 1 | 13 14");
 }
 
-// The checks of the cells, in order; then the refusals of predecessors that
-// no column could take: 0, a hidden cell beyond the line, a cycle.
+// The checks of the cells, in order, each ending Resolver at its failure.
+// Predecessor cells are checked only where shown, for a number from 0 to N.
 TEST(Equilibrado, ChecksEndAtTheFirstFailure) {
   const std::string numero = "El numero de actividades no es correcto",
                     tiempos =
@@ -83,11 +83,10 @@ TEST(Equilibrado, ChecksEndAtTheFirstFailure) {
     const char* linea;
     std::string message;
   } cases[] = {
-      {"1 | 1 x", numero},   {"1 | 1 -1", numero}, {"1 | 1 2.5", numero},
-      {"x | 1 3", numero},   {"x | _", tiempos},   {"-1 | 1", tiempos},
-      {"1e9 | 1", tiempos},  {"_ | 1", vacio},     {"1 | 1 0", numero},
-      {"1 | 1 0.4", numero}, {"1 | 1 2", numero},  {"1 | 1 3 | 1 2", numero},
-      {"0 | 999999999", ""}, {"1 | 1 1", ""},
+      {"1 | 1 x", numero},   {"1 | 1 -1", numero},  {"1 | 1 2.5", numero}, {"x | 1 3", numero},
+      {"x | _", tiempos},    {"-1 | 1", tiempos},   {"1e9 | 1", tiempos},  {"_ | 1", vacio},
+      {"0 | 999999999", ""}, {"1 | 1 1", ""},       {"1 | 1 0", ""},       {"1 | 1 0.4", ""},
+      {"1 | 1 2", ""},       {"1 | 1 3 | 1 2", ""},
   };
   for (const auto& c : cases) {
     const Messages expected = c.message.empty() ? Messages{} : Messages{{c.message, ""}};
@@ -95,11 +94,37 @@ TEST(Equilibrado, ChecksEndAtTheFirstFailure) {
   }
   EquilibradoFields f = linea("1 | 1");
   f.anterior(2, 0).visible = false;
-  f.anterior(2, 0).text = "7";      // hidden, so only the last refusal sees it
+  f.anterior(2, 0).text = "7";      // hidden, so not checked
   f.TiempoOperacion[9].text = "x";  // hidden times are checked all the same
   EXPECT_EQ(check(f), (Messages{{tiempos, ""}}));
   f.TiempoOperacion[9].text = "";
-  EXPECT_EQ(check(f), (Messages{{numero, ""}}));
+  EXPECT_EQ(check(f), Messages{});
+  // The solution reads it all the same: P(2, 7) is beyond the array.
+  try {
+    solve(f);
+    ADD_FAILURE() << "no run-time error";
+  } catch (const RuntimeError& e) {
+    EXPECT_EQ(e.number(), 9);
+  }
+}
+
+// Predecessors that no column can take (a cycle, an element after itself,
+// element 0) pass the checks and leave the placing passes without an end:
+// the method stops where its step budget is spent.
+TEST(Equilibrado, PrecedencesInACycleNeverEnd) {
+  for (const char* l :
+       {"1 | 1 3 | 1 2", "1 | 1 2", "1 | 1 0", "1 | 1 0.4", "1 | 1 1 | 1 4 | 1 3"}) {
+    const EquilibradoFields f = linea(l);
+    ASSERT_TRUE(check(f).empty()) << l;
+    EXPECT_THROW(solve(f, 1000), DoesNotEnd) << l;
+    EquilibradoFields g = f;
+    EXPECT_THROW(solveAndReport(g, 1000), DoesNotEnd) << l;
+  }
+  // A chain typed backwards places one element a pass: four passes end
+  // within a budget of 4, not of 3.
+  const EquilibradoFields cadena = linea("2 2 | 3 3 | 4 4 | 1");
+  EXPECT_EQ(solve(cadena, 4).NumColumnas, 4);
+  EXPECT_THROW(solve(cadena, 3), DoesNotEnd);
 }
 
 }  // namespace

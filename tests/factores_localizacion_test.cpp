@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "frame/arith.h"
 #include "tests/test_support.h"
 
 namespace vorel::location_equipment {
@@ -65,9 +68,10 @@ TEST(FactoresLocalizacion, ChecksNamesWeightsScoresThenTheWeightsRange) {
   }
 }
 
-TEST(FactoresLocalizacion, ScoresThatPrintAlikeTie) {
-  // Ten weights of 0.1: every location scores 5.5, but the Single sums differ
-  // in their last digits with the order of the scores.
+TEST(FactoresLocalizacion, OnlyEqualScoresTieNotScoresThatPrintAlike) {
+  // Ten weights of 0.1: every location scores 5.5 as printed, but the Single
+  // sums differ in their last digits with the order of the scores, and only
+  // the locations whose sum is the highest one are named.
   std::string filas;
   for (int k = 0; k < 10; ++k) {
     filas += (k ? " | F " : "F ") + std::string("0.1");
@@ -75,10 +79,22 @@ TEST(FactoresLocalizacion, ScoresThatPrintAlikeTie) {
   }
   const FactoresLocalizacionResults r = solve(problema(filas));
   ASSERT_EQ(r.puntuacion.size(), 6u);
-  bool distintas = false;
-  for (float p : r.puntuacion) distintas |= p != r.puntuacion[0];
-  EXPECT_TRUE(distintas);
-  EXPECT_EQ(r.mejores, (std::vector<int>{0, 1, 2, 3, 4, 5}));
+  float mayor = r.puntuacion[0];
+  for (float p : r.puntuacion) mayor = std::max(mayor, p);
+  std::vector<int> esperadas;
+  for (std::size_t j = 0; j < 6; ++j) {
+    EXPECT_EQ(Str(r.puntuacion[j]), " 5.5") << j;
+    if (r.puntuacion[j] == mayor) esperadas.push_back(int(j));
+  }
+  EXPECT_LT(esperadas.size(), 6u);
+  EXPECT_EQ(r.mejores, esperadas);
+
+  // 12345678 and 12345679 both print " 1.234568E+07"; the second is higher.
+  const FactoresLocalizacionResults g = solve(problema("F 1 12345678 12345679 | G 0 0 0"));
+  EXPECT_EQ(Str(g.puntuacion[0]), Str(g.puntuacion[1]));
+  EXPECT_EQ(g.mejores, (std::vector<int>{1}));
+  // Scores that are equal do tie, every one of them named in order.
+  EXPECT_EQ(solve(problema("F 0.5 4 6 4 | G 0.5 6 4 2")).mejores, (std::vector<int>{0, 1}));
 }
 
 }  // namespace

@@ -114,6 +114,44 @@ TEST(CommandLine, SolvesManyFilesWithOptionsAnywhere) {
             "[salida 2]\nGráfico desconocido: medias (vorel-report --help los enumera)\n");
 }
 
+// The charts that open from the means chart of control by variables: one
+// whose button the means chart hides is refused, and Imprimir on either of
+// them raises error 91, so --print and --pdf end in it with no page.
+TEST(CommandLine, ControlChartsAsTheirScreensAllow) {
+  const std::string ex = std::string(VOREL_SOURCE_DIR) + "/examples/control-variables/";
+  const std::string error91 =
+      "[salida 3]\nError 91: Variable de tipo Object o la variable de bloque With no está "
+      "establecida\n";
+  // Option1, samples outside: only "Control de Desviaciones Típicas" is shown.
+  const std::string uno = ex + "fuera-ambos-lados.txt";
+  std::string out = transcript("control-variables " + uno + " --grafico recorridos");
+  EXPECT_EQ(out.substr(0, 11), "[salida 2]\n");
+  EXPECT_NE(out.find("«Control de Recorridos»"), std::string::npos) << out;
+  out = transcript("control-variables " + uno + " --grafico desviaciones");
+  EXPECT_NE(out.find("Smedia:"), std::string::npos) << out;
+  EXPECT_EQ(transcript("control-variables " + uno + " --grafico desviaciones --print"), error91);
+  const std::string pdf = testing::tempPath("desviaciones.pdf");
+  std::filesystem::remove(pdf);
+  EXPECT_EQ(transcript("control-variables " + uno + " --grafico desviaciones --pdf " + pdf),
+            error91);
+  EXPECT_FALSE(std::filesystem::exists(pdf));
+  // The same samples under Option2: the means are out of control, so only
+  // "Control de Recorridos" is shown.
+  std::string bytes = testing::readBytes(uno);
+  const std::size_t flags = bytes.find("#TRUE#\r\n#FALSE#");
+  ASSERT_NE(flags, std::string::npos);
+  bytes.replace(flags, 15, "#FALSE#\r\n#TRUE#");
+  const std::string dos = testing::tempPath("opcion2.txt");
+  testing::writeBytes(dos, bytes);
+  out = transcript("control-variables " + dos + " --grafico desviaciones");
+  EXPECT_EQ(out.substr(0, 11), "[salida 2]\n");
+  EXPECT_NE(out.find("«Control de Desviaciones Típicas»"), std::string::npos) << out;
+  EXPECT_EQ(transcript("control-variables " + dos + " --grafico recorridos --print"), error91);
+  // Option2 in control shows both buttons.
+  out = transcript("control-variables " + ex + "cuarenta-y-cinco.txt --grafico desviaciones");
+  EXPECT_NE(out.find("Smedia:"), std::string::npos) << out;
+}
+
 TEST(CommandLine, WritesThePrintedPageAsPdf) {
   const std::string pdf = testing::tempPath("cep.pdf");
   const std::string example = std::string(VOREL_SOURCE_DIR) + "/examples/cep/libro.txt";
@@ -131,6 +169,10 @@ TEST(CommandLine, WritesThePrintedPageAsPdf) {
   pclose(words);
   EXPECT_GT(right, 500);
   EXPECT_LE(right, 595.3 - 6 / 25.4 * 72);
+  // A disk that takes nothing: the failed write is told, not passed over.
+  const std::string full = transcript("cep '" + example + "' --pdf /dev/full");
+  EXPECT_EQ(full.substr(0, 11), "[salida 2]\n");
+  EXPECT_NE(full.find("\nNo se pudo escribir el PDF: /dev/full\n"), std::string::npos) << full;
 #else
   EXPECT_NE(out.find("[salida 2]\nEsta versión de vorel-report se construyó sin la biblioteca"),
             std::string::npos);

@@ -2,7 +2,11 @@
 // and the chart print screen that paints the same matrix on its own page.
 #include <gtest/gtest.h>
 
+#include <QPainter>
+#include <QPdfWriter>
 #include <QValueAxis>
+#include <set>
+#include <sstream>
 
 #include "frame/gui/chart_screen.h"
 #include "frame/gui/printing.h"
@@ -44,11 +48,41 @@ TEST_F(ChartFrame, TheValueAxisIsFixedOrAutomatic) {
   auto* axis = qobject_cast<QValueAxis*>(fixed->axes(Qt::Vertical).front());
   EXPECT_EQ(axis->min(), -5);
   EXPECT_EQ(axis->max(), 40);
-  EXPECT_EQ(axis->tickInterval(), 5);
+  EXPECT_EQ(axis->tickCount(), 6);  // five major divisions, six labels
   std::unique_ptr<QChart> automatic(gui::makeChart(sample(ChartKind::Lines)));
   axis = qobject_cast<QValueAxis*>(automatic->axes(Qt::Vertical).front());
   EXPECT_LE(axis->min(), 4);
   EXPECT_GE(axis->max(), 22);
+}
+
+// A control chart of 45 samples with its centre near 1000, printed: six
+// value labels from the lower bound to the upper, and the sample numbers
+// 1, 5, 10, ... 45, none of them cut down to an ellipsis.
+TEST_F(ChartFrame, AxisLabelsOfAControlChartStayLegibleOnPaper) {
+  Chart c;
+  c.series = {"Medias", "LSC", "LIC", "Centro"};
+  for (int k = 0; k < 45; ++k) {
+    c.rows.push_back(std::to_string(k + 1));
+    c.matrix.push_back({1000 + (k % 7) - 3.0, 1006, 994, 1000});
+  }
+  c.axis = {false, 910.5, 1089.5, 5};
+  const QString pdf = QString::fromStdString(tempPath("ejes.pdf"));
+  {
+    QPdfWriter writer(pdf);
+    writer.setResolution(300);
+    QPainter painter(&writer);
+    gui::paintChart(painter, c, gui::chartPlace(c, painter.viewport(), writer.resolution()));
+  }
+  const std::string text = pdfText(pdf);
+  EXPECT_EQ(text.find("\u2026"), std::string::npos) << text;
+  std::istringstream words(text);
+  std::set<std::string> seen;
+  for (std::string w; words >> w;) seen.insert(w);
+  for (const char* value : {"910.5", "946.3", "982.1", "1017.9", "1053.7", "1089.5"})
+    EXPECT_TRUE(seen.count(value)) << value << "\n" << text;
+  EXPECT_FALSE(seen.count("928.4")) << text;  // no label between the divisions
+  for (const char* sample : {"1", "5", "10", "25", "45"})
+    EXPECT_TRUE(seen.count(sample)) << sample << "\n" << text;
 }
 
 TEST_F(ChartFrame, EachChartPrintIsAPageOfItsOwnWithTheChart) {

@@ -304,5 +304,24 @@ TEST_F(FrameTest, AChartPageEndsItsOwnDocument) {
   EXPECT_NE(pdfText(second).find("después"), std::string::npos);
 }
 
+// A printer document written to a file that fails is the printer's run-time
+// error: at once for a chart page, whose Imprimir ends its document, and at
+// the end of the process for the gathered text pages.
+TEST_F(FrameTest, ADocumentThePrinterCannotFinishIsAPrinterError) {
+  platform.printTo("/dev/full");
+  openFile("Select_C_Totales", examplePath("costes-totales", "dos-opciones.txt"));
+  press("Select_C_Totales", "Resolver");
+  press("Select_C_Totales_Sol", "Imprimir");
+  EXPECT_EQ(platform.runtimeErrors, std::vector<int>{482});
+
+  platform.runtimeErrors.clear();
+  platform.printTo("/dev/full");
+  gui::printReport(sampleReport("primera"));
+  EXPECT_TRUE(platform.runtimeErrors.empty());  // nothing has gone out yet
+  platform.endProcess();
+  EXPECT_EQ(platform.runtimeErrors, std::vector<int>{482});
+  EXPECT_TRUE(platform.ended);
+}
+
 }  // namespace
 }  // namespace vorel::testing

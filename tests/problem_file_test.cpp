@@ -1,9 +1,12 @@
 #include "frame/problem_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <filesystem>
 
+#include "frame/arith.h"
 #include "tests/test_support.h"
 
 namespace vorel {
@@ -64,6 +67,44 @@ TEST_F(ProblemFileTest, RoundTripsInALaterRunButNotInTheSameOne) {
   EXPECT_FALSE(read.hidden);
   EXPECT_EQ(read.index, 3);
   EXPECT_EQ(read.big, 32767);
+}
+
+// guardar over a good file whose new bytes cannot all be written (here the
+// process may write files of 16 bytes at most, as a full disk would stop
+// it) fails silently and leaves the good file as it was, with nothing beside.
+TEST_F(ProblemFileTest, AFailedWriteLeavesTheFileThatWasThere) {
+  const std::string dir = tempPath("guardar");
+  std::filesystem::remove_all(dir);
+  std::filesystem::create_directories(dir);
+  const std::string path = dir + "/problema.txt";
+  writeBytes(path, "\"bueno\"\r\n");
+  Sample s;
+  s.title = std::string(200, 'x');
+  struct rlimit before {};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  const auto previousSignal = std::signal(SIGXFSZ, SIG_IGN);
+  struct rlimit small = before;
+  small.rlim_cur = 16;
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  const bool saved = saveProblem(path, [&](ProblemFile& f) { exchange(f, s); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, previousSignal);
+  EXPECT_FALSE(saved);
+  EXPECT_EQ(readBytes(path), "\"bueno\"\r\n");
+  // A run-time error while the items are made leaves it too.
+  EXPECT_THROW(saveProblem(path,
+                           [&](ProblemFile& f) {
+                             f.text(s.title);
+                             throw RuntimeError(6);
+                           }),
+               RuntimeError);
+  EXPECT_EQ(readBytes(path), "\"bueno\"\r\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir), {}), 1);
+  // A write that succeeds replaces it.
+  s.title = "nuevo";
+  ASSERT_TRUE(saveProblem(path, [&](ProblemFile& f) { exchange(f, s); }));
+  EXPECT_EQ(readBytes(path).substr(0, 9), "\"nuevo\"\r\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir), {}), 1);
 }
 
 TEST_F(ProblemFileTest, ReaderSplitsAtCommasOutsideQuotes) {

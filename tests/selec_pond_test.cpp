@@ -66,13 +66,31 @@ TEST(SelecPond, TotalsInSingleAndTheirTie) {
   const SelecPondResults r = solve(problema("A 0.4 6 8 | B 0.3 9 6 | C 0.2 7 7 | D 0.1 5 9"));
   EXPECT_EQ(Str(r.PA), " 7");    // 2.4 + 2.7 + 1.4 + 0.5
   EXPECT_EQ(Str(r.PB), " 7.3");  // 3.2 + 1.8 + 1.4 + 0.9
-  // Ten weights of 0.1 over 1..10 and 10..1: both 5.5 as printed, a tie.
+  // Equal totals are a tie.
+  const std::string igual = renderText(
+      report(problema("A 0.5 4 6 | B 0.5 6 4"), solve(problema("A 0.5 4 6 | B 0.5 6 4"))));
+  EXPECT_NE(igual.find("ambas opciones poseen igual"), std::string::npos);
+  // Totals that differ are no tie even when they print alike: 12345678 and
+  // 12345679 are both " 1.234568E+07".
+  const SelecPondFields grande = problema("A 1 12345678 12345679");
+  const SelecPondResults g = solve(grande);
+  EXPECT_EQ(Str(g.PA), Str(g.PB));
+  const std::string texto = renderText(report(grande, g));
+  EXPECT_EQ(texto.find("ambas opciones poseen igual"), std::string::npos);
+  EXPECT_NE(texto.find("el proyecto o la tecnología B"), std::string::npos);
+  // Ten weights of 0.1: each Single sum rounds at every step, so A sums to
+  // 5.4999995 and B to 5.5, both printed " 5.5"; B wins.
+  const int a[10] = {1, 8, 5, 2, 9, 6, 3, 10, 7, 4}, b[10] = {4, 1, 8, 5, 2, 9, 6, 3, 10, 7};
   std::string filas;
-  for (int i = 1; i <= 10; ++i)
-    filas += (i > 1 ? " | F 0.1 " : "F 0.1 ") + std::to_string(i) + " " + std::to_string(11 - i);
+  for (int i = 0; i < 10; ++i)
+    filas += (i > 0 ? " | F 0.1 " : "F 0.1 ") + std::to_string(a[i]) + " " + std::to_string(b[i]);
   const SelecPondResults t = solve(problema(filas));
-  EXPECT_NE(renderText(report(problema(filas), t)).find("ambas opciones poseen igual"),
-            std::string::npos);
+  EXPECT_EQ(Str(t.PA), " 5.5");
+  EXPECT_EQ(Str(t.PB), " 5.5");
+  EXPECT_LT(t.PA, t.PB);
+  const std::string diez = renderText(report(problema(filas), t));
+  EXPECT_EQ(diez.find("ambas opciones poseen igual"), std::string::npos);
+  EXPECT_NE(diez.find("el proyecto o la tecnología B"), std::string::npos);
 }
 
 }  // namespace

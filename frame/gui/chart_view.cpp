@@ -1,6 +1,7 @@
 #include "frame/gui/chart_view.h"
 
 #include <QBarCategoryAxis>
+#include <QCategoryAxis>
 #include <QGraphicsScene>
 #include <QLineSeries>
 #include <QPainter>
@@ -11,16 +12,30 @@ namespace vorel::gui {
 
 namespace {
 
+// More divisions than this leave no room for their labels.
+constexpr double kMostDivisions = 20;
+// The most row labels a chart's width holds side by side.
+constexpr std::size_t kMostRowLabels = 15;
+
+// The step between labelled rows: the least of 2, 5, 10, 20, 50, ... that
+// leaves at most kMostRowLabels labels.
+std::size_t labelStep(std::size_t rows) {
+  for (std::size_t decade = 1;; decade *= 10)
+    for (std::size_t m : {2, 5, 10})
+      if (rows / (m * decade) + 1 <= kMostRowLabels) return m * decade;
+}
+
 QValueAxis* valueAxis(const ValueAxis& axis, const std::string& title) {
   auto* a = new QValueAxis();
   a->setTitleText(QString::fromStdString(title));
   a->setLabelFormat(QStringLiteral("%.6g"));
   if (!axis.automatic) {
     a->setRange(axis.minimum, axis.maximum);
-    if (axis.majorDivision > 0 && axis.maximum > axis.minimum) {
-      a->setTickType(QValueAxis::TicksDynamic);
-      a->setTickAnchor(axis.minimum);
-      a->setTickInterval(axis.majorDivision);
+    // The major division is a count of intervals between the bounds, each
+    // bound and each step labelled.
+    if (axis.majorDivision >= 1 && axis.maximum > axis.minimum) {
+      a->setTickType(QValueAxis::TicksFixed);
+      a->setTickCount(int(std::min(axis.majorDivision, kMostDivisions)) + 1);
     }
   }
   return a;
@@ -69,11 +84,25 @@ QChart* makeChart(const Chart& data) {
     axis->setLabelFormat(QStringLiteral("%.6g"));
     horizontal = axis;
   } else {
-    auto* axis = new QBarCategoryAxis();
-    for (std::size_t r = 0; r < data.matrix.size(); ++r)
-      axis->append(r < data.rows.size() ? QString::fromStdString(data.rows[r])
-                                        : QString::number(r + 1));
-    horizontal = axis;
+    auto label = [&data](std::size_t r) {
+      return r < data.rows.size() ? QString::fromStdString(data.rows[r]) : QString::number(r + 1);
+    };
+    const std::size_t rows = data.matrix.size();
+    if (rows <= kMostRowLabels) {
+      auto* axis = new QBarCategoryAxis();
+      for (std::size_t r = 0; r < rows; ++r) axis->append(label(r));
+      horizontal = axis;
+    } else {
+      // Too many rows for a label each: the first row and every k-th one
+      // (k of 2, 5, 10, ...) are labelled under their points.
+      const std::size_t step = labelStep(rows);
+      auto* axis = new QCategoryAxis();
+      axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+      axis->setRange(-0.5, double(rows) - 0.5);
+      for (std::size_t r = 0; r < rows; ++r)
+        if (r == 0 || (r + 1) % step == 0) axis->append(label(r), double(r));
+      horizontal = axis;
+    }
   }
   horizontal->setTitleText(QString::fromStdString(data.categoryTitle));
   QValueAxis* vertical = valueAxis(data.axis, data.valueTitle);

@@ -127,7 +127,7 @@ void QtPlatform::runtimeError(const RuntimeError& e) {
 void QtPlatform::startHelp(const QString& path) { HelpWindow::instance().showPage(path); }
 
 void QtPlatform::endProcess() {
-  finishPrinterDocument();
+  finishPrinterDocumentAtTheEnd();
   std::_Exit(0);
 }
 

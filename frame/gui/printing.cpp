@@ -1,5 +1,6 @@
 #include "frame/gui/printing.h"
 
+#include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
@@ -97,13 +98,29 @@ QPainter& beginIfNeeded() {
   return *d.painter;
 }
 
+// A PDF document that was written whole ends in its end-of-file mark; one
+// whose file failed (a full disk, a device that takes nothing) does not.
+bool endsAsPdf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  const qint64 size = file.size();
+  if (size > 1024) file.seek(size - 1024);
+  return file.read(1024).contains("%%EOF");
+}
+
 }  // namespace
 
 void printReport(const Report& page) {
   Document& d = document();
   QPainter& painter = beginIfNeeded();
   auto* printer = static_cast<QPrinter*>(painter.device());
-  d.y = paintPage(painter, page, d.y, [printer] { printer->newPage(); });
+  bool newPages = true;
+  d.y = paintPage(painter, page, d.y, [&] { newPages = printer->newPage() && newPages; });
+  if (!newPages) {
+    d.painter->end();
+    d.painter.reset();
+    raise(err::PrinterError);
+  }
 }
 
 void printChartPage(const Report& page, const QImage& chart, double leftFraction,
@@ -129,9 +146,20 @@ void printChartPage(const Report& page,
 
 void finishPrinterDocument() {
   Document& d = document();
-  if (d.painter) {
-    d.painter->end();
-    d.painter.reset();
+  if (!d.painter) return;
+  auto* printer = static_cast<QPrinter*>(d.painter->device());
+  bool finished = d.painter->end();
+  if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty())
+    finished = finished && endsAsPdf(printer->outputFileName());
+  d.painter.reset();
+  if (!finished) raise(err::PrinterError);
+}
+
+void finishPrinterDocumentAtTheEnd() {
+  try {
+    finishPrinterDocument();
+  } catch (const RuntimeError& e) {
+    platform().runtimeError(e);
   }
 }
 

@@ -47,7 +47,12 @@ void printChartPage(const Report& page, const QImage& chart, double leftFraction
 // page's area.
 void printChartPage(const Report& page,
                     const std::function<void(QPainter&, const QRect& page)>& paintChart);
-// Ends the gathered document, if any (at the end of the process).
+// Ends the gathered document, if any. A document the printer cannot finish
+// (a PDF file that was not written whole) is run-time error 482, "Error de
+// impresora"; a new page the printer refuses is the same error.
 void finishPrinterDocument();
+// The same at the end of the process: the error is told through the
+// platform's run-time error box rather than thrown.
+void finishPrinterDocumentAtTheEnd();
 
 }  // namespace vorel::gui

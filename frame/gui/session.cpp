@@ -40,7 +40,7 @@ void onSignal(int number) {
 }
 
 void finishAll() {
-  finishPrinterDocument();
+  finishPrinterDocumentAtTheEnd();
   closeAllProblemFiles();
 }
 
@@ -48,7 +48,7 @@ void finishAll() {
 
 void finishPrintsAtEveryEnd(QApplication& app) {
   QObject::connect(&app, &QGuiApplication::commitDataRequest, &app,
-                   [](QSessionManager&) { finishPrinterDocument(); });
+                   [](QSessionManager&) { finishPrinterDocumentAtTheEnd(); });
   QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, finishAll);
   if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return;
   auto* notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, &app);
