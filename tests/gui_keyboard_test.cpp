@@ -14,6 +14,9 @@
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
+// Control names in failure messages as text.
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+
 namespace vorel::testing {
 namespace {
 
