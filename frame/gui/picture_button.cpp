@@ -27,11 +27,14 @@ void PictureButton::paintEvent(QPaintEvent*) {
   QSvgRenderer renderer(picturePath(picture_));
   renderer.render(&p, QRectF(rect()).adjusted(inset, inset, -inset, -inset));
   if (isDown()) p.fillRect(rect(), QColor(0, 0, 0, 30));
-  if (hasFocus()) {  // the focus ring
+  if (hasFocus()) {  // the focus ring, white-edged to show on the coloured band too
     p.setOpacity(1);
-    p.setPen(QPen(QColor(0x1E, 0x5A, 0xD6), 2));
     p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    p.setPen(QPen(Qt::white, 3));
+    p.drawRoundedRect(ring, 4, 4);
+    p.setPen(QPen(QColor(0x1E, 0x5A, 0xD6), 1.5));
+    p.drawRoundedRect(ring, 4, 4);
   }
 }
 
