@@ -16,6 +16,7 @@ ChartSolutionScreen::ChartSolutionScreen(const std::string& name, const QString&
     : SolutionScreen(name, label, columns, lines, reportName),
       printScreen_(std::move(printScreen)) {
   chart_ = new ChartView(QStringLiteral("MSChart1"), this);
+  chart_->setAccessibleName(label);
   // The chart stands to the right of the report box.
   const int at = body()->indexOf(Solucion1());
   body()->removeWidget(Solucion1());
@@ -48,6 +49,7 @@ void ChartSolutionScreen::imprimir() {
 
 ChartPrintScreen::ChartPrintScreen(const std::string& name) : Screen(name) {
   picture_ = new ChartView(QStringLiteral("Picture1"), this);
+  if (info()) picture_->setAccessibleName(QString::fromStdString(info()->caption).trimmed());
   body()->addWidget(picture_);
 }
 

@@ -59,6 +59,8 @@ StartScreen::StartScreen() : Screen("AInicio") {
   Temporizador->setObjectName("Temporizador");
   Temporizador->setInterval(2000);
   connect(Temporizador, &QTimer::timeout, this, [this] {
+    // An unloaded screen awaiting deletion has no timer running any more.
+    if (Screens::instance().loaded("AInicio") != this) return Temporizador->stop();
     run([this] {
       Temporizador->stop();
       Screens::instance().hide("AInicio");

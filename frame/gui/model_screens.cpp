@@ -111,6 +111,7 @@ bool EntryScreen::tell(const Messages& messages) {
   for (const Message& m : messages) {
     if (!m.focus.empty())
       if (auto* w = findChild<QWidget*>(QString::fromStdString(m.focus))) w->setFocus();
+    ++told_;
     platform().errorBox(QString::fromStdString(m.text));
   }
   return messages.empty();
@@ -138,6 +139,7 @@ SolutionScreen::SolutionScreen(const ui::Description& d, const QString& reportNa
     if (c.kind == ui::ControlKind::ReportBox) {
       report_ = new ReportBox(reportName.isEmpty() ? QString::fromStdString(c.name) : reportName,
                               c.width, c.height, this);
+      report_->setAccessibleName(QString::fromStdString(d.heading));
       body()->addWidget(report_);
     }
   commands_ = new QHBoxLayout();

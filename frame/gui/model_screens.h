@@ -40,6 +40,8 @@ class EntryScreen : public Screen {
   // Shows every message in order, focus going to its control, as Resolver's
   // checks do. True when there was none.
   bool tell(const Messages& messages);
+  // How many messages tell() has shown on this screen.
+  int told() const { return told_; }
   // Shows the solution screen and, unless it stays, hides this one.
   void showSolution(const std::string& solution);
 
@@ -52,6 +54,7 @@ class EntryScreen : public Screen {
  private:
   QLineEdit* titleField_;
   QGridLayout* fields_;
+  int told_ = 0;
 };
 
 // Calls of a model's free functions, looked up beside its Fields type (the

@@ -1,6 +1,7 @@
 #include "frame/gui/picture_button.h"
 
 #include <QPainter>
+#include <QPen>
 #include <QSvgRenderer>
 
 namespace vorel::gui {
@@ -11,7 +12,9 @@ PictureButton::PictureButton(const QString& picture, int size, QWidget* parent)
     : QAbstractButton(parent), picture_(picture), size_(size) {
   setCursor(Qt::PointingHandCursor);
   setFixedSize(sizeHint());
-  setFocusPolicy(Qt::NoFocus);
+  // Tab reaches it and Space or Enter presses it; a click leaves the focus
+  // where the student was typing.
+  setFocusPolicy(Qt::TabFocus);
 }
 
 QSize PictureButton::sizeHint() const { return {size_, size_}; }
@@ -24,6 +27,15 @@ void PictureButton::paintEvent(QPaintEvent*) {
   QSvgRenderer renderer(picturePath(picture_));
   renderer.render(&p, QRectF(rect()).adjusted(inset, inset, -inset, -inset));
   if (isDown()) p.fillRect(rect(), QColor(0, 0, 0, 30));
+  if (hasFocus()) {  // the focus ring, white-edged to show on the coloured band too
+    p.setOpacity(1);
+    p.setBrush(Qt::NoBrush);
+    const QRectF ring = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    p.setPen(QPen(Qt::white, 3));
+    p.drawRoundedRect(ring, 4, 4);
+    p.setPen(QPen(QColor(0x1E, 0x5A, 0xD6), 1.5));
+    p.drawRoundedRect(ring, 4, 4);
+  }
 }
 
 void PictureButton::enterEvent(QEnterEvent*) {

@@ -1,5 +1,6 @@
 // A picture that acts as a command: it shows an SVG from the resources and
-// reacts to a click.
+// reacts to a click, or to Space (and Enter, keyboard.h) when it has the
+// focus, which a ring shows.
 #pragma once
 
 #include <QAbstractButton>
@@ -8,16 +9,16 @@ namespace vorel::gui {
 
 class PictureButton : public QAbstractButton {
   Q_OBJECT
-public:
+ public:
   PictureButton(const QString& picture, int size, QWidget* parent = nullptr);
   QSize sizeHint() const override;
 
-protected:
+ protected:
   void paintEvent(QPaintEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
-private:
+ private:
   QString picture_;
   int size_;
   bool hover_ = false;

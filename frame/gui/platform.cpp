@@ -59,11 +59,15 @@ QString selectedFilter(const QStringList& filters, int filterIndex) {
 QtPlatform::QtPlatform() = default;
 QtPlatform::~QtPlatform() { delete printer_; }
 
-void QtPlatform::errorBox(const QString& text) {
-  QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(ui::kErrorTitle), text, QMessageBox::Ok,
-                  QApplication::activeWindow());
-  box.exec();
+std::unique_ptr<QMessageBox> errorMessageBox(const QString& text) {
+  auto box = std::make_unique<QMessageBox>(QMessageBox::NoIcon, QString::fromUtf8(ui::kErrorTitle),
+                                           text, QMessageBox::Ok, QApplication::activeWindow());
+  box->setDefaultButton(QMessageBox::Ok);
+  box->setEscapeButton(QMessageBox::Ok);
+  return box;
 }
+
+void QtPlatform::errorBox(const QString& text) { errorMessageBox(text)->exec(); }
 
 std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QString& filter,
                                         int filterIndex) {
@@ -120,6 +124,7 @@ void QtPlatform::runtimeError(const RuntimeError& e) {
   QMessageBox box(QMessageBox::Critical, QString::fromUtf8(ui::kRuntimeErrorTitle),
                   QString::fromStdString(ui::runtimeErrorText(e.number(), e.what())),
                   QMessageBox::Ok, QApplication::activeWindow());
+  box.setEscapeButton(QMessageBox::Ok);
   box.exec();
   endProcess();
 }

@@ -4,6 +4,7 @@
 
 #include <QFileDialog>
 #include <QImage>
+#include <QMessageBox>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -49,6 +50,9 @@ QStringList dialogFilters(const QString& filter);
 // The file dialog of abrir (AcceptOpen) or guardar (AcceptSave), not yet shown.
 std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QString& filter,
                                         int filterIndex);
+
+// The box of errorBox, not yet shown: OK answers Enter, Space and Escape.
+std::unique_ptr<QMessageBox> errorMessageBox(const QString& text);
 
 // The Qt implementation used by the desktop program.
 class QtPlatform : public Platform {

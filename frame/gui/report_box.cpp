@@ -9,8 +9,10 @@
 namespace vorel::gui {
 
 class ReportCanvas : public QWidget {
-public:
-  explicit ReportCanvas(QWidget* parent) : QWidget(parent) { setFont(reportFont(kScreenPointSize)); }
+ public:
+  explicit ReportCanvas(QWidget* parent) : QWidget(parent) {
+    setFont(reportFont(kScreenPointSize));
+  }
 
   void setReport(const Report& report) {
     report_ = report;
@@ -29,7 +31,7 @@ public:
   }
   const Report& report() const { return report_; }
 
-protected:
+ protected:
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
     p.fillRect(rect(), Qt::white);
@@ -38,7 +40,7 @@ protected:
     paintReport(p, report_, 0);
   }
 
-private:
+ private:
   Report report_;
 };
 
@@ -52,14 +54,18 @@ ReportBox::ReportBox(const QString& objectName, int columns, int lines, QWidget*
   setStyleSheet("QScrollArea { border: 1px solid #CBD2DC; background: white; }");
   const QFontMetricsF m(reportFont(kScreenPointSize));
   // Wide enough for the rule of every report, a zone in.
-  const double rule = (kZoneColumns + 2) * averageCharWidth(m) +
-                      m.horizontalAdvance(QString::fromStdString(kRule));
+  const double rule =
+      (kZoneColumns + 2) * averageCharWidth(m) + m.horizontalAdvance(QString::fromStdString(kRule));
   setFixedSize(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24,
                static_cast<int>(m.lineSpacing() * lines) + 8);
 }
 
-void ReportBox::Cls() { canvas_->setReport(Report()); }
-void ReportBox::setReport(const Report& report) { canvas_->setReport(report); }
+void ReportBox::Cls() { setReport(Report()); }
+void ReportBox::setReport(const Report& report) {
+  canvas_->setReport(report);
+  // A screen reader reads the report as the plain text the printer's lines make.
+  setAccessibleDescription(QString::fromStdString(renderText(report)));
+}
 const Report& ReportBox::report() const { return canvas_->report(); }
 
 }  // namespace vorel::gui

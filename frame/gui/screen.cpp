@@ -4,10 +4,12 @@
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "frame/gui/help_window.h"
+#include "frame/gui/keyboard.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/platform.h"
 
@@ -20,6 +22,7 @@ Screen::Screen(const std::string& name)
       accent_(0x3B, 0x6F, 0xD8) {
   setObjectName(QString::fromStdString(name));
   setAttribute(Qt::WA_DeleteOnClose, false);
+  installKeyboard();
   if (info_) setWindowTitle(QString::fromStdString(info_->caption));
   auto* outer = new QVBoxLayout(this);
   outer->setContentsMargins(0, 0, 0, 0);
@@ -88,8 +91,11 @@ PictureButton* Screen::command(const QString& objectName, const QString& picture
   auto* button = new PictureButton(picture, size, this);
   button->setObjectName(objectName);
   button->setToolTip(toolTip);
-  connect(button, &QAbstractButton::clicked, this,
-          [handler = std::move(handler)] { run(handler); });
+  connect(button, &QAbstractButton::clicked, this, [this, handler = std::move(handler)] {
+    QPointer<Screen> self(this);
+    run(handler);
+    if (self) nameControls(self);  // headings may have changed
+  });
   return button;
 }
 
@@ -97,8 +103,18 @@ PictureButton* Screen::command(const ui::Command& c, std::function<void()> handl
   PictureButton* button = command(QString::fromStdString(c.name), QString::fromStdString(c.picture),
                                   QString::fromStdString(c.toolTip), std::move(handler), c.size);
   button->setEnabled(c.enabled);
+  // A picture that does nothing is no stop for Tab; a menu's choice is read by
+  // its caption.
+  if (c.action == ui::Action::None || (c.action == ui::Action::Show && c.target.empty()))
+    button->setFocusPolicy(Qt::NoFocus);
+  const std::string& name = c.caption.empty() ? c.toolTip : c.caption;
+  if (!name.empty()) button->setAccessibleName(QString::fromStdString(name));
+  if (!c.toolTip.empty() && c.toolTip != name)
+    button->setAccessibleDescription(QString::fromStdString(c.toolTip));
   return button;
 }
+
+bool Screen::focusNextPrevChild(bool next) { return stepFocus(this, next); }
 
 void Screen::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton)
@@ -155,6 +171,14 @@ Screen* Screens::show(const std::string& name) {
   screen->raise();
   screen->activateWindow();
   screen->formActivate();
+  // The keyboard starts in the first control in reading order, unless the
+  // screen keeps a focus of its own among its controls (the window's commands
+  // come last, not first).
+  QWidget* focus = screen->focusWidget();
+  const QList<QWidget*> order = readingOrder(screen);
+  if (!order.isEmpty() && (!order.contains(focus) || focus->parentWidget()->objectName() == "band"))
+    order.front()->setFocus(Qt::ActiveWindowFocusReason);
+  nameControls(screen);
   return screen;
 }
 

@@ -21,7 +21,7 @@ class PictureButton;
 
 class Screen : public QWidget {
   Q_OBJECT
-public:
+ public:
   explicit Screen(const std::string& name);
   const std::string& name() const { return name_; }
   const nav::ScreenInfo* info() const { return info_; }
@@ -34,24 +34,25 @@ public:
   static void run(const std::function<void()>& handler);
 
   // A picture that acts as a command, wired through run().
-  PictureButton* command(const QString& objectName, const QString& picture,
-                         const QString& toolTip, std::function<void()> handler,
-                         int size = 36);
+  PictureButton* command(const QString& objectName, const QString& picture, const QString& toolTip,
+                         std::function<void()> handler, int size = 36);
   // The same, from a description's command.
   PictureButton* command(const ui::Command& c, std::function<void()> handler);
 
-protected:
+ protected:
   // The body of the window, below the header band with the chrome.
   QVBoxLayout* body() const { return body_; }
   QHBoxLayout* chromeBar() const { return chrome_; }
   void setHeading(const QString& text);
   void setAccent(const QColor& color);
 
+  // Tab and Shift+Tab go in reading order (keyboard.h).
+  bool focusNextPrevChild(bool next) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
-private:
+ private:
   void buildChrome();
 
   std::string name_;
@@ -67,7 +68,7 @@ using ScreenFactory = std::function<Screen*()>;
 
 // The screens of the process by name, created on first show.
 class Screens {
-public:
+ public:
   static Screens& instance();
 
   void add(const std::string& name, ScreenFactory factory);
@@ -78,7 +79,9 @@ public:
   void unload(const std::string& name);
   Screen* loaded(const std::string& name) const;  // null when not loaded
   template <class T>
-  T* loadedAs(const std::string& name) const { return dynamic_cast<T*>(loaded(name)); }
+  T* loadedAs(const std::string& name) const {
+    return dynamic_cast<T*>(loaded(name));
+  }
   // The screen, loaded first if it is not (as reading another form's control does).
   Screen* load(const std::string& name);
 
@@ -93,7 +96,7 @@ public:
   // Called when the last loaded screen is unloaded; the application quits.
   std::function<void()> onNoScreenLoaded;
 
-private:
+ private:
   std::map<std::string, ScreenFactory> factories_;
   std::map<std::string, Screen*> loaded_;
 };

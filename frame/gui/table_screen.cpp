@@ -5,6 +5,7 @@
 #include <QPalette>
 
 #include "frame/gui/control_array.h"
+#include "frame/gui/keyboard.h"
 
 namespace vorel::gui {
 
@@ -42,9 +43,18 @@ QPushButton* redesignButton(QWidget& screen, std::function<void()> handler, cons
   button->setStyleSheet(
       "QPushButton { padding: 5px 14px; border: 1px solid #9AA5B8; border-radius: 4px;"
       " background: #FFFFFF; color: #2D3748; font-weight: 600; }"
-      "QPushButton:hover { background: #EDF2F7; }");
-  QObject::connect(button, &QPushButton::clicked, &screen,
-                   [handler = std::move(handler)] { Screen::run(handler); });
+      "QPushButton:hover { background: #EDF2F7; }"
+      "QPushButton:focus { border: 2px solid #1E5AD6; }");
+  QObject::connect(button, &QPushButton::clicked, &screen, [&screen, handler = std::move(handler)] {
+    auto* entry = dynamic_cast<EntryScreen*>(&screen);
+    const int told = entry ? entry->told() : 0;
+    Screen::run(handler);
+    // A table reshaped without a message takes the keyboard
+    // to its first cell, where the screen did not put it.
+    if (entry && entry->told() == told && !tableOf(screen.focusWidget()))
+      if (QWidget* cell = firstCell(&screen)) cell->setFocus(Qt::OtherFocusReason);
+    nameControls(&screen);  // the headings changed
+  });
   return button;
 }
 
