@@ -9,8 +9,10 @@
 namespace vorel::gui {
 
 class ReportCanvas : public QWidget {
-public:
-  explicit ReportCanvas(QWidget* parent) : QWidget(parent) { setFont(reportFont(kScreenPointSize)); }
+ public:
+  explicit ReportCanvas(QWidget* parent) : QWidget(parent) {
+    setFont(reportFont(kScreenPointSize));
+  }
 
   void setReport(const Report& report) {
     report_ = report;
@@ -29,7 +31,7 @@ public:
   }
   const Report& report() const { return report_; }
 
-protected:
+ protected:
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
     p.fillRect(rect(), Qt::white);
@@ -38,7 +40,7 @@ protected:
     paintReport(p, report_, 0);
   }
 
-private:
+ private:
   Report report_;
 };
 
@@ -52,14 +54,33 @@ ReportBox::ReportBox(const QString& objectName, int columns, int lines, QWidget*
   setStyleSheet("QScrollArea { border: 1px solid #CBD2DC; background: white; }");
   const QFontMetricsF m(reportFont(kScreenPointSize));
   // Wide enough for the rule of every report, a zone in.
-  const double rule = (kZoneColumns + 2) * averageCharWidth(m) +
-                      m.horizontalAdvance(QString::fromStdString(kRule));
-  setFixedSize(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24,
-               static_cast<int>(m.lineSpacing() * lines) + 8);
+  const double rule =
+      (kZoneColumns + 2) * averageCharWidth(m) + m.horizontalAdvance(QString::fromStdString(kRule));
+  setFixedWidth(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  lineHeight_ = m.lineSpacing();
+  lines_ = lines;
 }
 
-void ReportBox::Cls() { canvas_->setReport(Report()); }
-void ReportBox::setReport(const Report& report) { canvas_->setReport(report); }
+int ReportBox::linesHigh(int lines) const { return static_cast<int>(lineHeight_ * lines) + 8; }
+
+QSize ReportBox::sizeHint() const {
+  // As tall as the report, between a few lines and the largest report of
+  // the screen; a short report leaves no wide blank below it.
+  const int report = canvas_->minimumHeight() + 8;
+  return {width(),
+          std::clamp(report, linesHigh(std::min(kFewestLines, lines_)), linesHigh(lines_))};
+}
+
+QSize ReportBox::minimumSizeHint() const {
+  return {width(), std::min(sizeHint().height(), linesHigh(kFewestLines))};
+}
+
+void ReportBox::Cls() { setReport(Report()); }
+void ReportBox::setReport(const Report& report) {
+  canvas_->setReport(report);
+  updateGeometry();
+}
 const Report& ReportBox::report() const { return canvas_->report(); }
 
 }  // namespace vorel::gui

@@ -19,9 +19,18 @@ namespace vorel::gui {
 
 class PictureButton;
 
+// The part of the display a window may take: the available geometry of its
+// screen (without panels and task bars), in the program's pixels.
+QRect screenArea(const QWidget& widget);
+// Sizes a window to what it holds, never beyond its screen's area, and keeps
+// it on that area.
+void fitWindow(QWidget& window);
+// Moves a window back onto its screen's area where it stands partly off it.
+void keepOnScreen(QWidget& window);
+
 class Screen : public QWidget {
   Q_OBJECT
-public:
+ public:
   explicit Screen(const std::string& name);
   const std::string& name() const { return name_; }
   const nav::ScreenInfo* info() const { return info_; }
@@ -34,14 +43,14 @@ public:
   static void run(const std::function<void()>& handler);
 
   // A picture that acts as a command, wired through run().
-  PictureButton* command(const QString& objectName, const QString& picture,
-                         const QString& toolTip, std::function<void()> handler,
-                         int size = 36);
+  PictureButton* command(const QString& objectName, const QString& picture, const QString& toolTip,
+                         std::function<void()> handler, int size = 36);
   // The same, from a description's command.
   PictureButton* command(const ui::Command& c, std::function<void()> handler);
 
-protected:
-  // The body of the window, below the header band with the chrome.
+ protected:
+  // The body of the window, below the header band with the chrome; it
+  // scrolls where the window would not fit the screen.
   QVBoxLayout* body() const { return body_; }
   QHBoxLayout* chromeBar() const { return chrome_; }
   void setHeading(const QString& text);
@@ -51,7 +60,7 @@ protected:
   void mouseMoveEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
-private:
+ private:
   void buildChrome();
 
   std::string name_;
@@ -67,7 +76,7 @@ using ScreenFactory = std::function<Screen*()>;
 
 // The screens of the process by name, created on first show.
 class Screens {
-public:
+ public:
   static Screens& instance();
 
   void add(const std::string& name, ScreenFactory factory);
@@ -78,7 +87,9 @@ public:
   void unload(const std::string& name);
   Screen* loaded(const std::string& name) const;  // null when not loaded
   template <class T>
-  T* loadedAs(const std::string& name) const { return dynamic_cast<T*>(loaded(name)); }
+  T* loadedAs(const std::string& name) const {
+    return dynamic_cast<T*>(loaded(name));
+  }
   // The screen, loaded first if it is not (as reading another form's control does).
   Screen* load(const std::string& name);
 
@@ -93,9 +104,10 @@ public:
   // Called when the last loaded screen is unloaded; the application quits.
   std::function<void()> onNoScreenLoaded;
 
-private:
+ private:
   std::map<std::string, ScreenFactory> factories_;
   std::map<std::string, Screen*> loaded_;
+  std::string current_;  // the screen shown last
 };
 
 // Registers every screen of the program (menus, start, models).
