@@ -79,9 +79,15 @@ bench: deps
 	@cmake --build $(BENCH_BUILD) -j $(JOBS) --target vorel_bench
 	@$(BENCH_BUILD)/bench/vorel_bench
 
-# A Debian package of both programs, the help and the examples, checked by lintian.
+# A Debian package of both programs, the help and the examples, checked by
+# lintian; its desktop entry and software-centre listing, as installed, checked
+# by desktop-file-validate and appstreamcli (offline).
 package: build
 	@cd $(BUILD) && cpack -G DEB > /dev/null && ls vorel_*.deb
+	@rm -rf $(BUILD)/deb-contents && dpkg-deb -x $(BUILD)/vorel_*.deb $(BUILD)/deb-contents
+	@desktop-file-validate $(BUILD)/deb-contents/usr/share/applications/vorel.desktop
+	@appstreamcli validate --no-net --pedantic \
+	  $(BUILD)/deb-contents/usr/share/metainfo/org.example.vorel.metainfo.xml
 	@lintian --fail-on error $(BUILD)/vorel_*.deb
 
 screenshots: build web web-deps

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "frame/gui/printing.h"
 #include "frame/gui/table_screen.h"
@@ -45,12 +47,24 @@ PanelEquilibrios::PanelEquilibrios(const QString& objectName, int columns, int l
     : QWidget(parent) {
   setObjectName(objectName);
   const QFontMetricsF m(gui::reportFont(gui::kScreenPointSize));
-  setFixedSize(int(gui::averageCharWidth(m) * columns) + 8, int(m.lineSpacing() * lines) + 8);
+  columnsWide_ = int(gui::averageCharWidth(m) * columns) + 8;
+  setFixedSize(columnsWide_, int(m.lineSpacing() * lines) + 8);
   setFont(gui::reportFont(gui::kScreenPointSize));
 }
 
 void PanelEquilibrios::setReport(const Report& report) {
   report_ = report;
+  // At least `columns` wide, and wider where a line is longer, so that no
+  // sentence the command prints is cut at the panel's edge.
+  const QFontMetricsF m(font());
+  auto width = [&m](const std::string& s) {
+    return m.horizontalAdvance(QString::fromStdString(s));
+  };
+  double widest = 0;
+  for (const LaidOutLine& line :
+       vorel::layout(report_, kZoneColumns * gui::averageCharWidth(m), width))
+    if (!line.empty()) widest = std::max(widest, line.back().x + width(line.back().text));
+  setFixedWidth(std::max(columnsWide_, int(std::ceil(widest)) + 8));
   update();
 }
 

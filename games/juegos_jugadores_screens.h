@@ -28,6 +28,7 @@ class PanelEquilibrios : public QWidget {
 
  private:
   Report report_;
+  int columnsWide_ = 0;
 };
 
 // The entry screen of a game of J players: the table, EstPuras and EstMixtas

@@ -1,10 +1,10 @@
 #include "games/juegos_n_screens.h"
 
-#include "frame/gui/table_screen.h"
-
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
+
+#include "frame/gui/table_screen.h"
 
 namespace vorel::games {
 
@@ -42,12 +42,14 @@ JuegosNEntry::JuegosNEntry()
                  "Título", "Problema 1") {
   gui::renameChrome(*this, "volver", "Image5");
 
-  NDecA_ = gui::addNumberSelector(*this, 0, 0, "NDecA", "Estrategias del Jugador 1",
-                                  kMaxEstrategias, "Número de decisiones que puede tomar Jugador 1");
-  NDecB_ = gui::addNumberSelector(*this, 1, 0, "NDecB", "Estrategias del Jugador 2",
-                                  kMaxEstrategias, "Número de Decisiones que puede tomar Jugador 2");
-  auto* reshape =
-      gui::redesignButton(*this, [this] { rediseñarTabla(); }, "Rediseñar tabla", "Rediseñar");
+  NDecA_ =
+      gui::addNumberSelector(*this, 0, 0, "NDecA", "Estrategias del Jugador 1", kMaxEstrategias,
+                             "Número de decisiones que puede tomar Jugador 1");
+  NDecB_ =
+      gui::addNumberSelector(*this, 1, 0, "NDecB", "Estrategias del Jugador 2", kMaxEstrategias,
+                             "Número de Decisiones que puede tomar Jugador 2");
+  auto* reshape = gui::redesignButton(
+      *this, [this] { rediseñarTabla(); }, "Rediseñar tabla", "Rediseñar");
   reshape->setToolTip("Ajusta la tabla al número de decisiones deseadas");
   fieldGrid()->addWidget(reshape, 0, 3, 2, 1, Qt::AlignVCenter);
   fieldGrid()->setColumnMinimumWidth(2, 24);
@@ -112,8 +114,7 @@ void JuegosNEntry::setFields(const JuegosNFields& f) {
       gui::writeCell(cell, f.array(k)[at]);
     }
   }
-  if (auto* layout = this->layout()) layout->activate();
-  adjustSize();
+  gui::fitWindow(*this);
 }
 
 void JuegosNEntry::rediseñarTabla() {

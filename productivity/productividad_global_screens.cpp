@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
+#include <QListView>
 #include <tuple>
 
 #include "frame/gui/table_screen.h"
@@ -84,11 +85,14 @@ ProductividadGlobalEntry::ProductividadGlobalEntry()
   for (const auto& g : grupos) {
     auto* heading = gui::newHeading(frame);
     heading->setText(g.titulo);
-    heading->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(heading, row, 0);
-    grid->addWidget(lista(g.uf0, g.l0, g.grupo), row, 1);
-    grid->addWidget(lista(g.pu0, g.p0, g.grupo), row, 2);
-    grid->addWidget(lista(g.uf1, g.l1, g.grupo), row, 3);
+    heading->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    grid->addWidget(heading, row, 0, 2, 1);
+    int column = 1;
+    for (auto [name, member] : {std::pair{g.uf0, g.l0}, {g.pu0, g.p0}, {g.uf1, g.l1}}) {
+      QComboBox* box = lista(name, member, g.grupo);
+      grid->addWidget(box, row, column);
+      grid->addWidget(filas(box, g.grupo), row + 1, column++);
+    }
     auto* numero = casilla(frame, g.numero, 48);
     auto* total = casilla(frame, g.total, 48);
     auto* cuenta = casilla(frame, g.cuenta, 48);
@@ -98,7 +102,7 @@ ProductividadGlobalEntry::ProductividadGlobalEntry()
     bindings_.bind(g.fila, numero);
     bindings_.bind(g.filas, total);
     bindings_.bind(g.contador, cuenta);
-    ++row;
+    row += 2;
   }
 
   // The commands on the rows in hand.
@@ -167,6 +171,30 @@ QComboBox* ProductividadGlobalEntry::lista(const char* name, Lista F::*member, G
   });
   combos_.push_back({member, g, box});
   return box;
+}
+
+QListView* ProductividadGlobalEntry::filas(QComboBox* box, Grupo g) {
+  // The rows of a list in sight, below its box (which shows only the row
+  // being typed): the same items, and a click picks a row as in the box.
+  auto* view = new QListView(this);
+  view->setObjectName(box->objectName() + "_filas");
+  view->setModel(box->model());
+  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view->setFocusPolicy(Qt::NoFocus);
+  view->setFixedSize(box->width(), 5 * (view->fontMetrics().height() + 3) + 2 * view->frameWidth());
+  view->setToolTip(box->toolTip());
+  connect(view, &QListView::clicked, this, [this, box, g](const QModelIndex& at) {
+    gui::Screen::run([this, box, g, fila = at.row()] {
+      box->setCurrentIndex(fila);
+      edit([g, fila](F& f) {
+        seleccionar(f, g, fila);
+        return Messages{};
+      });
+    });
+  });
+  auto follow = [box, view](int fila) { view->setCurrentIndex(box->model()->index(fila, 0)); };
+  connect(box, &QComboBox::currentIndexChanged, view, follow);
+  return view;
 }
 
 bool ProductividadGlobalEntry::eventFilter(QObject* watched, QEvent* event) {

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
 #include <array>
 
 #include "frame/gui/model_screens.h"
@@ -31,6 +32,7 @@ class ProductividadGlobalEntry : public gui::ModelEntry<ProductividadGlobalField
     QComboBox* box;
   };
   QComboBox* lista(const char* name, Lista ProductividadGlobalFields::*member, Grupo g);
+  QListView* filas(QComboBox* box, Grupo g);
 
   gui::TextBindings<ProductividadGlobalFields> bindings_;
   std::vector<Combo> combos_;

@@ -9,6 +9,7 @@ packages=(
   qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins libgl-dev
   qt6-translations-l10n
   xvfb xauth fonts-liberation poppler-utils imagemagick librsvg2-bin dpkg-dev lintian
+  appstream desktop-file-utils
   emscripten node-acorn chromium
 )
 # The machine may bring its own Node.js and npm; Debian's only where there is none.

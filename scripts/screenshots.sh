@@ -6,7 +6,7 @@ build=${1:-build}
 out=${2:-screenshots}
 mkdir -p "$out"
 source "$(dirname "$0")/xvfb.sh"
-start_xvfb 1280x860
+start_xvfb 1366x768  # a common laptop screen
 VOREL_SCREENSHOTS="$out" "$build/tests/vorel_gui_tests" \
   --gtest_filter='Screenshots.*' --gtest_also_run_disabled_tests > /dev/null
 ls "$out"

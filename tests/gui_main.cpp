@@ -6,7 +6,9 @@
 #include "frame/gui/screen.h"
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("DISPLAY") || qEnvironmentVariableIsSet("VOREL_OFFSCREEN"))
+  // An offscreen platform given with options (a screen of a set size) stays.
+  if ((qEnvironmentVariableIsEmpty("DISPLAY") || qEnvironmentVariableIsSet("VOREL_OFFSCREEN")) &&
+      !qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

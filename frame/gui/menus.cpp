@@ -39,7 +39,8 @@ StartScreen::StartScreen() : Screen("AInicio") {
     p->setCursor(Qt::ArrowCursor);
     return p;
   };
-  setFixedSize(560, 400);
+  // Its size as drawn, or the whole screen where that is smaller.
+  setMinimumSize(QSize(560, 400).boundedTo(screenArea(*this).size()));
   setAccent(QColor(0x2F, 0x3A, 0x4A));
   auto* logoRow = new QHBoxLayout();
   logoRow->addWidget(picture(0));

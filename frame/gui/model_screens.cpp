@@ -158,6 +158,7 @@ void SolutionScreen::formActivate() {
     report_->setReport(pages.screen);
     draw(pages);
   });
+  fitWindow(*this);  // to this report
 }
 
 bool SolutionScreen::solveInSlices(const std::function<void(long)>& attempt, long first,

@@ -82,6 +82,12 @@ std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QStr
   dialog->setOption(QFileDialog::HideNameFilterDetails, true);
   dialog->setNameFilters(filters);
   dialog->selectNameFilter(selectedFilter(filters, filterIndex));
+  // Wide enough for the size, type and date of the files beside their
+  // names, never beyond the screen.
+  dialog->setViewMode(QFileDialog::Detail);
+  const QRect area =
+      dialog->parentWidget() ? screenArea(*dialog->parentWidget()) : screenArea(*dialog);
+  dialog->resize(QSize(900, 560).boundedTo(area.size() - QSize(32, 32)));
   return dialog;
 }
 

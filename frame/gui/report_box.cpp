@@ -56,8 +56,24 @@ ReportBox::ReportBox(const QString& objectName, int columns, int lines, QWidget*
   // Wide enough for the rule of every report, a zone in.
   const double rule =
       (kZoneColumns + 2) * averageCharWidth(m) + m.horizontalAdvance(QString::fromStdString(kRule));
-  setFixedSize(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24,
-               static_cast<int>(m.lineSpacing() * lines) + 8);
+  setFixedWidth(static_cast<int>(std::max(averageCharWidth(m) * columns, rule)) + 24);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  lineHeight_ = m.lineSpacing();
+  lines_ = lines;
+}
+
+int ReportBox::linesHigh(int lines) const { return static_cast<int>(lineHeight_ * lines) + 8; }
+
+QSize ReportBox::sizeHint() const {
+  // As tall as the report, between a few lines and the largest report of
+  // the screen; a short report leaves no wide blank below it.
+  const int report = canvas_->minimumHeight() + 8;
+  return {width(),
+          std::clamp(report, linesHigh(std::min(kFewestLines, lines_)), linesHigh(lines_))};
+}
+
+QSize ReportBox::minimumSizeHint() const {
+  return {width(), std::min(sizeHint().height(), linesHigh(kFewestLines))};
 }
 
 void ReportBox::Cls() { setReport(Report()); }
@@ -65,6 +81,7 @@ void ReportBox::setReport(const Report& report) {
   canvas_->setReport(report);
   // A screen reader reads the report as the plain text the printer's lines make.
   setAccessibleDescription(QString::fromStdString(renderText(report)));
+  updateGeometry();
 }
 const Report& ReportBox::report() const { return canvas_->report(); }
 

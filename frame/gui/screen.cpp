@@ -6,7 +6,11 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "frame/gui/help_window.h"
 #include "frame/gui/keyboard.h"
@@ -14,6 +18,65 @@
 #include "frame/gui/platform.h"
 
 namespace vorel::gui {
+
+namespace {
+
+constexpr int kBandHeight = 48;
+
+// The body of a window: as large as what it holds while that fits the screen,
+// scrolled where it does not (a small laptop screen, a large scale factor).
+class BodyArea : public QScrollArea {
+ public:
+  explicit BodyArea(QWidget* parent) : QScrollArea(parent) {
+    setObjectName(QStringLiteral("cuerpo"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    viewport()->setAutoFillBackground(false);
+  }
+
+  QSize sizeHint() const override { return fitted(widget() ? widget()->sizeHint() : QSize()); }
+  QSize minimumSizeHint() const override {
+    return fitted(widget() ? widget()->minimumSizeHint() : QSize());
+  }
+
+ private:
+  // `content` bounded to the room below the band, with room for a scroll bar
+  // across the other way when one is needed.
+  QSize fitted(QSize content) const {
+    const QRect area = screenArea(*this);
+    const QSize room(area.width(), area.height() - kBandHeight);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    if (content.height() > room.height()) content.rwidth() += bar;
+    if (content.width() > room.width()) content.rheight() += bar;
+    return content.boundedTo(room);
+  }
+};
+
+}  // namespace
+
+QRect screenArea(const QWidget& widget) {
+  const QWidget* window = widget.window();
+  QScreen* display =
+      window && window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+  return display ? display->availableGeometry() : QRect(0, 0, 1024, 728);
+}
+
+void fitWindow(QWidget& window) {
+  // The layouts inside the body (tables shown or hidden just now) first.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  if (auto* layout = window.layout()) layout->activate();
+  const QRect area = screenArea(window);
+  window.resize(window.sizeHint().expandedTo(window.minimumSize()).boundedTo(area.size()));
+  keepOnScreen(window);
+}
+
+void keepOnScreen(QWidget& window) {
+  const QRect area = screenArea(window);
+  QPoint at = window.pos();
+  at.setX(std::max(area.left(), std::min(at.x(), area.right() + 1 - window.width())));
+  at.setY(std::max(area.top(), std::min(at.y(), area.bottom() + 1 - window.height())));
+  if (at != window.pos()) window.move(at);
+}
 
 Screen::Screen(const std::string& name)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
@@ -23,13 +86,16 @@ Screen::Screen(const std::string& name)
   setObjectName(QString::fromStdString(name));
   setAttribute(Qt::WA_DeleteOnClose, false);
   installKeyboard();
+  // Selector lists open below their box, always in the same place, not
+  // lined up on the current choice.
+  setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
   if (info_) setWindowTitle(QString::fromStdString(info_->caption));
   auto* outer = new QVBoxLayout(this);
   outer->setContentsMargins(0, 0, 0, 0);
   outer->setSpacing(0);
   auto* band = new QWidget(this);
   band->setObjectName(QStringLiteral("band"));
-  band->setFixedHeight(48);
+  band->setFixedHeight(kBandHeight);
   chrome_ = new QHBoxLayout(band);
   chrome_->setContentsMargins(16, 6, 10, 6);
   heading_ = new QLabel(band);
@@ -39,10 +105,15 @@ Screen::Screen(const std::string& name)
   chrome_->addWidget(heading_);
   chrome_->addStretch();
   outer->addWidget(band);
-  body_ = new QVBoxLayout();
+  auto* scroll = new BodyArea(this);
+  auto* content = new QWidget(scroll);
+  content->setObjectName(QStringLiteral("contenido"));
+  content->setAutoFillBackground(false);
+  body_ = new QVBoxLayout(content);
   body_->setContentsMargins(24, 16, 24, 20);
   body_->setSpacing(10);
-  outer->addLayout(body_);
+  scroll->setWidget(content);
+  outer->addWidget(scroll);
   if (info_) {
     setHeading(QString::fromStdString(info_->caption).trimmed());
     buildChrome();
@@ -131,7 +202,7 @@ void Screen::paintEvent(QPaintEvent*) {
   QLinearGradient band(0, 0, width(), 0);
   band.setColorAt(0, accent_);
   band.setColorAt(1, accent_.lighter(130));
-  p.fillRect(QRect(0, 0, width(), 48), band);
+  p.fillRect(QRect(0, 0, width(), kBandHeight), band);
   p.setPen(QColor(0xC9, 0xCE, 0xD8));
   p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
@@ -159,14 +230,18 @@ Screen* Screens::show(const std::string& name) {
   const bool firstShow = !loaded(name);
   Screen* screen = load(name);
   if (!screen) return nullptr;
-  if (firstShow) {
-    // A new window opens in the middle of the screen.
-    screen->adjustSize();
-    if (QScreen* display = QGuiApplication::primaryScreen()) {
-      const QRect area = display->availableGeometry();
-      screen->move(area.center() - QPoint(screen->width() / 2, screen->height() / 2));
-    }
+  if (firstShow) fitWindow(*screen);
+  // The next window opens where the last one stood (the first in the middle
+  // of the screen), so going from an entry to its solution and back, or
+  // through the menus, keeps the place the student is looking at.
+  if (Screen* last = loaded(current_); last && last != screen) {
+    screen->move(last->pos());
+  } else if (firstShow) {
+    const QRect area = screenArea(*screen);
+    screen->move(area.center() - QPoint(screen->width() / 2, screen->height() / 2));
   }
+  keepOnScreen(*screen);
+  current_ = name;
   screen->show();
   screen->raise();
   screen->activateWindow();
@@ -224,6 +299,7 @@ void Screens::cerrar(Screen& from) {
 void Screens::reset() {
   for (auto& [name, screen] : loaded_) delete screen;
   loaded_.clear();
+  current_.clear();
 }
 
 }  // namespace vorel::gui

@@ -19,6 +19,15 @@ namespace vorel::gui {
 
 class PictureButton;
 
+// The part of the display a window may take: the available geometry of its
+// screen (without panels and task bars), in the program's pixels.
+QRect screenArea(const QWidget& widget);
+// Sizes a window to what it holds, never beyond its screen's area, and keeps
+// it on that area.
+void fitWindow(QWidget& window);
+// Moves a window back onto its screen's area where it stands partly off it.
+void keepOnScreen(QWidget& window);
+
 class Screen : public QWidget {
   Q_OBJECT
  public:
@@ -40,7 +49,8 @@ class Screen : public QWidget {
   PictureButton* command(const ui::Command& c, std::function<void()> handler);
 
  protected:
-  // The body of the window, below the header band with the chrome.
+  // The body of the window, below the header band with the chrome; it
+  // scrolls where the window would not fit the screen.
   QVBoxLayout* body() const { return body_; }
   QHBoxLayout* chromeBar() const { return chrome_; }
   void setHeading(const QString& text);
@@ -99,6 +109,7 @@ class Screens {
  private:
   std::map<std::string, ScreenFactory> factories_;
   std::map<std::string, Screen*> loaded_;
+  std::string current_;  // the screen shown last
 };
 
 // Registers every screen of the program (menus, start, models).

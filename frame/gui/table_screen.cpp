@@ -1,8 +1,6 @@
 #include "frame/gui/table_screen.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QPalette>
 
 #include "frame/gui/control_array.h"
 #include "frame/gui/keyboard.h"
@@ -96,10 +94,7 @@ void placeTable(QVBoxLayout* body, QGridLayout* fieldGrid, QFrame* table) {
   body->insertWidget(body->indexOf(fieldGrid) + 1, table);
 }
 
-void fitToTable(QWidget& screen) {
-  if (auto* layout = screen.layout()) layout->activate();
-  screen.adjustSize();
-}
+void fitToTable(QWidget& screen) { fitWindow(screen); }
 
 QLabel* newColumnHead(QWidget* parent) {
   auto* head = newHeading(parent);
@@ -120,10 +115,12 @@ QColor platformColor(long backColor) {
 }
 
 void markTotalCell(QLineEdit* cell, bool total) {
-  QPalette palette = cell->palette();
-  palette.setColor(QPalette::Base, total ? QColor(0xEE, 0xF3, 0xFA)
-                                         : QApplication::palette(cell).color(QPalette::Base));
-  cell->setPalette(palette);
+  // The student types these cells as every other: they keep the white of an
+  // input cell (a tinted ground reads as a disabled box) and stand apart by
+  // their bold figures only.
+  QFont font = cell->font();
+  font.setBold(total);
+  cell->setFont(font);
 }
 
 }  // namespace vorel::gui

@@ -64,7 +64,7 @@ QLabel* newColumnHead(QWidget* parent);
 void paintColumnHead(QLabel* head, const QColor& background);
 // A colour as the platform stores it: a Long with red in the lowest byte.
 QColor platformColor(long backColor);
-// Paints a cell as data (white) or as a total of the table (tinted).
+// Marks a cell as data or as a total of the table (bold), both typed.
 void markTotalCell(QLineEdit* cell, bool total);
 
 }  // namespace vorel::gui
