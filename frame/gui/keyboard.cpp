@@ -4,6 +4,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -127,6 +128,9 @@ QWidget* tableOf(QWidget* w) {
 }
 
 QList<QWidget*> readingOrder(QWidget* window) {
+  // Places are read where the layouts put them: lay out first what is pending
+  // (the body inside its scroll area lays out after the window does).
+  for (QLayout* layout : window->findChildren<QLayout*>()) layout->activate();
   // Places as they will be drawn, after a Rediseñar that has just shown cells.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   // Each table stands in the window's lines as one block, at its panel's place.

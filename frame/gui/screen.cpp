@@ -31,6 +31,7 @@ class BodyArea : public QScrollArea {
     setObjectName(QStringLiteral("cuerpo"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);  // the controls inside take the focus, not the area
     viewport()->setAutoFillBackground(false);
   }
 
