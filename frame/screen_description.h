@@ -78,6 +78,7 @@ inline constexpr char kTituloToolTip[] = "Título del Problema";
 inline constexpr char kNotYet[] = "Disponible próximamente";
 inline constexpr char kErrorTitle[] = "Error";  // every check's message box
 inline constexpr char kRuntimeErrorTitle[] = "Vorel";
+inline constexpr char kHelpTitle[] = "Ayuda de Vorel";  // the help window
 // The text of the box that reports a run-time error.
 std::string runtimeErrorText(int number, const std::string& text);
 

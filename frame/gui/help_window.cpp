@@ -9,6 +9,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "frame/screen_description.h"
+
 namespace vorel::gui {
 
 QString helpFolder() {
@@ -25,7 +27,7 @@ HelpWindow& HelpWindow::instance() {
 
 HelpWindow::HelpWindow() : QWidget(nullptr, Qt::Window) {
   setObjectName(QStringLiteral("Ayuda"));
-  setWindowTitle(QStringLiteral("Ayuda de Vorel"));
+  setWindowTitle(QString::fromUtf8(ui::kHelpTitle));
   resize(760, 640);
   browser_ = new QTextBrowser(this);
   browser_->setObjectName(QStringLiteral("pagina"));
