@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "frame/gui/clipboard.h"
 #include "frame/gui/help_window.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/platform.h"
@@ -20,6 +21,7 @@ Screen::Screen(const std::string& name)
       accent_(0x3B, 0x6F, 0xD8) {
   setObjectName(QString::fromStdString(name));
   setAttribute(Qt::WA_DeleteOnClose, false);
+  installClipboard();
   if (info_) setWindowTitle(QString::fromStdString(info_->caption));
   auto* outer = new QVBoxLayout(this);
   outer->setContentsMargins(0, 0, 0, 0);

@@ -1,0 +1,262 @@
+// The clipboard of the screens driven offscreen: a spreadsheet's block pasted
+// into the control chart's samples and the transportation table, refused
+// whole where it does not fit, never into hidden cells; cells, reports and
+// charts copied out.
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+
+#include "frame/gui/chart_screen.h"
+#include "frame/gui/clipboard.h"
+#include "tests/gui_support.h"
+#include "tests/test_support.h"
+
+namespace vorel::testing {
+namespace {
+
+const std::string kControl = "ControlCal_V", kMedias = "ControlCal_V_Sol";
+const std::string kTransporte = "PL_Transportes";
+
+QClipboard& clipboard() { return *QGuiApplication::clipboard(); }
+
+QString fixture(const char* name) {
+  QFile file(QStringLiteral(VOREL_SOURCE_DIR "/tests/clipboard/%1").arg(name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(file.readAll());
+}
+
+class Clipboard : public ScreenTest {
+ protected:
+  QLineEdit* box(const std::string& screen, const QString& name) {
+    auto* b = control<QLineEdit>(screen, name);
+    EXPECT_NE(b, nullptr) << name.toStdString();
+    return b;
+  }
+  // Ctrl+V on a cell, the clipboard holding `text`.
+  void paste(const std::string& screen, const QString& cell, const QString& text) {
+    clipboard().setText(text);
+    QLineEdit* b = box(screen, cell);
+    b->setFocus();
+    QTest::keyClick(b, Qt::Key_V, Qt::ControlModifier);
+  }
+  void copy(QWidget* w) { QTest::keyClick(w, Qt::Key_C, Qt::ControlModifier); }
+  // The control chart's entry with `samples` rows of samples of four.
+  void controlTable(const char* samples) {
+    screens().show(kControl);
+    type(kControl, "Titulo1", "Cuarenta y cinco muestras");
+    press(kControl, "Option2");
+    type(kControl, "Nmuestras", samples);
+    type(kControl, "Tmuestras", "4");
+    press(kControl, "Rediseñar");
+  }
+  QStringList column(const char* name, int rows) {
+    QStringList out;
+    for (int i = 0; i < rows; ++i) out << text(kControl, QString("%1(%2)").arg(name).arg(i));
+    return out;
+  }
+};
+
+TEST(SpreadsheetText, RowsAtLineEndsColumnsAtTabsOneTrailingLineEndClosesTheLastRow) {
+  using gui::Block;
+  EXPECT_EQ(gui::parseBlock("1\t2\r\n3\t4\r\n"), (Block{{"1", "2"}, {"3", "4"}}));
+  EXPECT_EQ(gui::parseBlock("1\t2\n3\t4"), (Block{{"1", "2"}, {"3", "4"}}));
+  EXPECT_EQ(gui::parseBlock("1\r2\r"), (Block{{"1"}, {"2"}}));
+  EXPECT_EQ(gui::parseBlock("2,5\t\t-3\n\n"), (Block{{"2,5", "", "-3"}, {""}}));
+  EXPECT_EQ(gui::parseBlock("7\n"), (Block{{"7"}}));
+  EXPECT_TRUE(gui::parseBlock("").empty());
+  EXPECT_EQ(gui::blockText(Block{{"1", ""}, {"a b", "2,5"}}), "1\t\na b\t2,5\n");
+}
+
+// The 45 samples of an example, as a spreadsheet copies them (CR LF, a line
+// end after the last row), pasted at the first cell and solved, give the
+// example's own report.
+TEST_F(Clipboard, FortyFiveSamplesPastedSolveAsTheExample) {
+  controlTable("45");
+  const QString block = fixture("cuarenta-y-cinco.tsv");
+  ASSERT_EQ(block.count("\r\n"), 45);
+  paste(kControl, "M(0)", block);
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(text(kControl, "M(0)"), "99.5");
+  EXPECT_EQ(text(kControl, "S(44)"), block.split("\r\n")[44].split('\t')[1]);
+  press(kControl, "Resolver");
+  ASSERT_TRUE(visible(kMedias));
+  EXPECT_EQ(painted(kMedias), golden("control-variables", "cuarenta-y-cinco.txt", "report"));
+}
+
+// Pasted lower down and one column in, a value goes exactly as it was typed,
+// decimal comma included; the checks judge it afterwards.
+TEST_F(Clipboard, ValuesGoAsTypedFromTheCellRightAndDown) {
+  controlTable("5");
+  paste(kControl, "S(3)", "2,5\n 7 \n");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(column("S", 5), (QStringList{"", "", "", "2,5", " 7 "}));
+  EXPECT_EQ(column("M", 5), (QStringList{"", "", "", "", ""}));
+  // One value goes in as a text box pastes it: over the chosen text.
+  type(kControl, "M(1)", "100");
+  box(kControl, "M(1)")->setSelection(1, 2);
+  paste(kControl, "M(1)", "9\r\n");
+  EXPECT_EQ(text(kControl, "M(1)"), "19");
+}
+
+// A block beyond the table changes nothing and tells how large the table must
+// be; the samples' screen has Rediseñar.
+TEST_F(Clipboard, ABlockTooLargeIsRefusedWhole) {
+  controlTable("20");
+  type(kControl, "M(19)", "1");
+  paste(kControl, "M(0)", fixture("cuarenta-y-cinco.tsv"));
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0],
+            "El bloque copiado tiene 45 filas y 2 columnas y no cabe en la tabla desde esta "
+            "casilla: hacen falta 45 filas y 2 columnas de casillas, y la tabla muestra 20 filas "
+            "y 2 columnas. Elija un tamaño mayor, pulse Rediseñar y pegue de nuevo. No se ha "
+            "pegado nada.");
+  QStringList untouched(20, "");
+  untouched[19] = "1";
+  EXPECT_EQ(column("M", 20), untouched);
+  EXPECT_EQ(column("S", 20), QStringList(20, ""));
+
+  platform.messages.clear();
+  paste(kControl, "S(0)", "1\t2\n");  // one column too wide
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_NE(platform.messages[0].find("hacen falta 1 fila y 3 columnas"), std::string::npos);
+  EXPECT_EQ(text(kControl, "S(0)"), "");
+}
+
+// The transportation table as it stands on screen: a 2 by 2 table with its
+// supplies to the right and demands below; the corner and the columns beyond
+// are hidden and keep what they hold.
+TEST_F(Clipboard, HiddenCellsAreNeverWritten) {
+  screens().show(kTransporte);
+  for (const char* hidden : {"C3(2)", "C4(0)", "C1(3)", "C4(3)"}) {
+    ASSERT_FALSE(shown(kTransporte, hidden)) << hidden;
+    box(kTransporte, hidden)->setText("x");
+  }
+  paste(kTransporte, "C1(0)", "1\t2\t30\n3\t4\t40\n5\t6\t99\n");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(text(kTransporte, "C1(0)"), "1");
+  EXPECT_EQ(text(kTransporte, "C3(0)"), "30");
+  EXPECT_EQ(text(kTransporte, "C3(1)"), "40");
+  EXPECT_EQ(text(kTransporte, "C1(2)"), "5");
+  EXPECT_EQ(text(kTransporte, "C2(2)"), "6");
+  for (const char* hidden : {"C3(2)", "C4(0)", "C1(3)", "C4(3)"})
+    EXPECT_EQ(text(kTransporte, hidden), "x") << hidden;
+
+  // A row more than the table shows: refused, the cells as they were.
+  paste(kTransporte, "C1(1)", "7\t8\n7\t8\n7\t8\n");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_NE(platform.messages[0].find("hacen falta 4 filas y 2 columnas de casillas, y la tabla "
+                                      "muestra 3 filas y 3 columnas"),
+            std::string::npos);
+  EXPECT_EQ(text(kTransporte, "C1(1)"), "3");
+  EXPECT_EQ(text(kTransporte, "C1(2)"), "5");
+}
+
+// A plain text box pastes as any text box does, tabs and lines and all, and
+// the table is not touched.
+TEST_F(Clipboard, APlainTextBoxPastesAsATextBox) {
+  screens().show(kTransporte);
+  const QString block = "1\t2\n3\t4\n";
+  QLineEdit reference;
+  clipboard().setText(block);
+  reference.paste();
+  type(kTransporte, "Título", "");
+  paste(kTransporte, "Título", block);
+  EXPECT_EQ(text(kTransporte, "Título"), reference.text());
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(text(kTransporte, "C1(0)"), "");
+}
+
+// Ctrl+C copies the current cell, or the cells chosen with Shift+click, as
+// tab-separated text; the cell's menu copies the whole table and pastes.
+TEST_F(Clipboard, CellsCopyOutAsTabSeparatedText) {
+  screens().show(kTransporte);
+  paste(kTransporte, "C1(0)", "1\t2\t30\n3\t4\t40\n5\t6\n");
+  QLineEdit* first = box(kTransporte, "C1(0)");
+  first->setFocus();
+  first->deselect();
+  copy(first);
+  EXPECT_EQ(clipboard().text(), "1");
+
+  // Shift+click chooses from the cell that had the focus to the one clicked,
+  // which takes the focus; a second one moves the far corner.
+  QTest::mouseClick(box(kTransporte, "C3(0)"), Qt::LeftButton, Qt::ShiftModifier);
+  QTest::mouseClick(box(kTransporte, "C2(1)"), Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_EQ(focused(kTransporte), "C2(1)");
+  copy(box(kTransporte, "C2(1)"));
+  EXPECT_EQ(clipboard().text(), "1\t2\n3\t4\n");
+  // A key typed ends the choice.
+  QTest::keyClick(box(kTransporte, "C2(1)"), Qt::Key_End);
+  copy(box(kTransporte, "C2(1)"));
+  EXPECT_EQ(clipboard().text(), "4");
+
+  // Down the corner: the hidden cell copies as an empty value.
+  QTest::mouseClick(box(kTransporte, "C3(0)"), Qt::LeftButton);
+  QTest::mouseClick(box(kTransporte, "C2(2)"), Qt::LeftButton, Qt::ShiftModifier);
+  copy(box(kTransporte, "C2(2)"));
+  EXPECT_EQ(clipboard().text(), "2\t30\n4\t40\n6\t\n");
+
+  std::unique_ptr<QMenu> menu(gui::cellMenu(first));
+  auto* whole = menu->findChild<QAction*>("copiar-tabla");
+  ASSERT_NE(whole, nullptr);
+  whole->trigger();
+  EXPECT_EQ(clipboard().text(), "1\t2\t30\n3\t4\t40\n5\t6\t\n");
+  // Pegar of the menu pastes the block at the cell.
+  clipboard().setText("8\t9\n");
+  menu.reset(gui::cellMenu(first));
+  auto* pegar = menu->findChild<QAction*>("pegar");
+  ASSERT_NE(pegar, nullptr);
+  ASSERT_TRUE(pegar->isEnabled());
+  pegar->trigger();
+  EXPECT_EQ(text(kTransporte, "C1(0)"), "8");
+  EXPECT_EQ(text(kTransporte, "C2(0)"), "9");
+}
+
+// A solution screen copies its report as the plain text of its zones; its
+// chart copies a picture and its points.
+TEST_F(Clipboard, ReportsAndChartsCopyOut) {
+  openFile(kControl, examplePath("control-variables", "cuarenta-y-cinco.txt"));
+  press(kControl, "Resolver");
+  auto* solution = dynamic_cast<gui::ChartSolutionScreen*>(screen(kMedias));
+  ASSERT_NE(solution, nullptr);
+  const std::string report = golden("control-variables", "cuarenta-y-cinco.txt", "report");
+
+  clipboard().clear();
+  copy(solution);
+  EXPECT_EQ(clipboard().text().toStdString(), report);
+  EXPECT_FALSE(clipboard().mimeData()->hasImage());
+
+  clipboard().clear();
+  std::unique_ptr<QMenu> menu(gui::reportMenu(solution->Solucion1()));
+  menu->findChild<QAction*>("Copiar")->trigger();
+  EXPECT_EQ(clipboard().text().toStdString(), report);
+
+  clipboard().clear();
+  copy(solution->MSChart1());
+  const QMimeData* data = clipboard().mimeData();
+  ASSERT_TRUE(data->hasImage());
+  const QImage picture = qvariant_cast<QImage>(data->imageData());
+  EXPECT_EQ(picture.size(), gui::kChartPictureSize);
+  int drawn = 0;  // pixels not white: the lines, axes and texts of the chart
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) drawn += picture.pixel(x, y) != qRgb(255, 255, 255);
+  EXPECT_GT(drawn, 2000);
+  const QString points = data->text();
+  const QStringList lines = points.split('\n');
+  EXPECT_EQ(lines[0], "Punto\tMedias\tLSC\tLIC\tLC");
+  EXPECT_EQ(lines[1], "1\t99.5\t102.6278\t96.78999\t99.70889");
+  EXPECT_EQ(lines.size(), 45 + 2);
+
+  clipboard().clear();
+  std::unique_ptr<QMenu> chartMenu(gui::chartMenu(solution->MSChart1()));
+  chartMenu->findChild<QAction*>("Copiar")->trigger();
+  EXPECT_TRUE(clipboard().mimeData()->hasImage());
+  EXPECT_EQ(clipboard().text(), points);
+}
+
+}  // namespace
+}  // namespace vorel::testing
