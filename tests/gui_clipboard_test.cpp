@@ -6,13 +6,18 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QTest>
+#include <map>
 
+#include "frame/catalogue.h"
 #include "frame/gui/chart_screen.h"
 #include "frame/gui/clipboard.h"
+#include "frame/navigation.h"
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
@@ -256,6 +261,65 @@ TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   chartMenu->findChild<QAction*>("Copiar")->trigger();
   EXPECT_TRUE(clipboard().mimeData()->hasImage());
   EXPECT_EQ(clipboard().text(), points);
+}
+
+// Every entry table of every model, shaped by the model's first example: each
+// shown cell has a place of its own in the table as pasted, and a block that
+// fills the table from its first cell writes every shown cell it covers, in
+// rows and columns, and no hidden one.
+TEST_F(Clipboard, EveryEntryTableTakesABlockCellByCell) {
+  for (const nav::ScreenInfo& info : nav::screens()) {
+    if (info.kind != nav::Kind::Entry || !screens().available(info.name)) continue;
+    const CatalogueEntry* model = findModel(info.name);
+    if (!model) continue;
+    screens().reset();
+    const QDir examples(QString(VOREL_SOURCE_DIR) + "/examples/" +
+                        QString::fromStdString(model->id));
+    const QStringList files = examples.entryList(QDir::Files, QDir::Name);
+    if (!files.isEmpty()) openFile(info.name, examples.filePath(files.front()));
+    gui::Screen* s = screens().show(info.name);
+    std::map<QWidget*, std::vector<QLineEdit*>> tables;
+    std::map<QLineEdit*, QString> hidden;
+    for (QLineEdit* box : s->findChildren<QLineEdit*>()) {
+      if (!QRegularExpression("^.+\\(\\d+\\)$").match(box->objectName()).hasMatch()) continue;
+      if (box->isVisibleTo(s))
+        tables[box->parentWidget()].push_back(box);
+      else if (box->isHidden())
+        hidden[box] = box->text();
+    }
+    for (auto& [parent, cells] : tables) {
+      const gui::TableGrid g = gui::tableOf(cells.front());
+      const std::string where = info.name + " " + cells.front()->objectName().toStdString();
+      for (QLineEdit* cell : cells)
+        EXPECT_GE(g.find(cell).first, 0) << where << ": " << cell->objectName().toStdString();
+      // The first cell a student types in, row by row.
+      int top = -1, left = -1;
+      for (int r = 0; r < g.rows && top < 0; ++r)
+        for (int c = 0; c < g.columns && top < 0; ++c)
+          if (auto* b = qobject_cast<QLineEdit*>(g.at(r, c)); b && !b->isReadOnly())
+            top = r, left = c;
+      if (top < 0) continue;
+      gui::Block block;
+      for (int r = top; r < g.rows; ++r) {
+        QStringList row;
+        for (int c = left; c < g.columns; ++c) row << QString("%1.%2").arg(r).arg(c);
+        block.push_back(row);
+      }
+      platform.messages.clear();
+      ASSERT_TRUE(
+          gui::pasteIntoTable(static_cast<QLineEdit*>(g.at(top, left)), gui::blockText(block)))
+          << where;
+      EXPECT_TRUE(platform.messages.empty()) << where;
+      for (int r = top; r < g.rows; ++r)
+        for (int c = left; c < g.columns; ++c)
+          if (auto* b = qobject_cast<QLineEdit*>(g.at(r, c)); b && !b->isReadOnly()) {
+            EXPECT_EQ(b->text(), QString("%1.%2").arg(r).arg(c))
+                << where << ": " << b->objectName().toStdString();
+          }
+    }
+    for (auto& [box, before] : hidden)
+      EXPECT_EQ(box->text(), before) << info.name << ": " << box->objectName().toStdString();
+  }
 }
 
 }  // namespace
