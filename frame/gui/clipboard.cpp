@@ -43,7 +43,7 @@ bool tableMember(const QWidget* w) {
 // A table cell the student types in.
 bool writable(const QWidget* w) {
   auto* box = qobject_cast<const QLineEdit*>(w);
-  return box && !box->isReadOnly() && box->isEnabled() && !box->isHidden();
+  return box && !box->isReadOnly() && box->isEnabled();
 }
 
 // The columns a table declared, kept as a child of its panel.
