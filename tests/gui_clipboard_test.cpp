@@ -66,17 +66,6 @@ class Clipboard : public ScreenTest {
   }
 };
 
-TEST(SpreadsheetText, RowsAtLineEndsColumnsAtTabsOneTrailingLineEndClosesTheLastRow) {
-  using gui::Block;
-  EXPECT_EQ(gui::parseBlock("1\t2\r\n3\t4\r\n"), (Block{{"1", "2"}, {"3", "4"}}));
-  EXPECT_EQ(gui::parseBlock("1\t2\n3\t4"), (Block{{"1", "2"}, {"3", "4"}}));
-  EXPECT_EQ(gui::parseBlock("1\r2\r"), (Block{{"1"}, {"2"}}));
-  EXPECT_EQ(gui::parseBlock("2,5\t\t-3\n\n"), (Block{{"2,5", "", "-3"}, {""}}));
-  EXPECT_EQ(gui::parseBlock("7\n"), (Block{{"7"}}));
-  EXPECT_TRUE(gui::parseBlock("").empty());
-  EXPECT_EQ(gui::blockText(Block{{"1", ""}, {"a b", "2,5"}}), "1\t\na b\t2,5\n");
-}
-
 // The 45 samples of an example, as a spreadsheet copies them (CR LF, a line
 // end after the last row), pasted at the first cell and solved, give the
 // example's own report.
@@ -299,11 +288,11 @@ TEST_F(Clipboard, EveryEntryTableTakesABlockCellByCell) {
           if (auto* b = qobject_cast<QLineEdit*>(g.at(r, c)); b && !b->isReadOnly())
             top = r, left = c;
       if (top < 0) continue;
-      gui::Block block;
+      Block block;
       for (int r = top; r < g.rows; ++r) {
-        QStringList row;
-        for (int c = left; c < g.columns; ++c) row << QString("%1.%2").arg(r).arg(c);
-        block.push_back(row);
+        block.emplace_back();
+        for (int c = left; c < g.columns; ++c)
+          block.back().push_back(std::to_string(r) + "." + std::to_string(c));
       }
       platform.messages.clear();
       ASSERT_TRUE(

@@ -24,6 +24,7 @@
 #include "frame/gui/model_screens.h"
 #include "frame/gui/platform.h"
 #include "frame/gui/report_box.h"
+#include "frame/spreadsheet.h"
 
 namespace vorel::gui {
 
@@ -123,39 +124,15 @@ TableGrid screenGrid(QWidget* parent) {
   return g;
 }
 
-QString plural(int n, const char* one, const char* many) {
-  return QStringLiteral("%1 %2").arg(n).arg(QString::fromUtf8(n == 1 ? one : many));
-}
-
 bool hasRedesign(const QWidget* screen) {
   for (auto* b : screen->findChildren<QAbstractButton*>())
     if (b->objectName().startsWith(QStringLiteral("Rediseñar")) && !b->isHidden()) return true;
   return false;
 }
 
-QString tooLarge(const QWidget* screen, int blockRows, int blockColumns, int neededRows,
-                 int neededColumns, const TableGrid& g) {
-  QString text =
-      QStringLiteral(
-          "El bloque copiado tiene %1 y %2 y no cabe en la tabla desde esta "
-          "casilla: ")
-          .arg(plural(blockRows, "fila", "filas"), plural(blockColumns, "columna", "columnas"));
-  if (hasRedesign(screen))
-    text +=
-        QStringLiteral(
-            "hacen falta %1 y %2 de casillas, y la tabla muestra %3 y %4. Elija un "
-            "tamaño mayor, pulse Rediseñar y pegue de nuevo.")
-            .arg(plural(neededRows, "fila", "filas"), plural(neededColumns, "columna", "columnas"),
-                 plural(g.rows, "fila", "filas"), plural(g.columns, "columna", "columnas"));
-  else
-    text += QStringLiteral("la tabla tiene %1 y %2 de casillas.")
-                .arg(plural(g.rows, "fila", "filas"), plural(g.columns, "columna", "columnas"));
-  return text + QStringLiteral(" No se ha pegado nada.");
-}
-
-QString cellText(const QWidget* w) {
-  if (auto* box = qobject_cast<const QLineEdit*>(w)) return box->text();
-  if (auto* combo = qobject_cast<const QComboBox*>(w)) return combo->currentText();
+std::string cellText(const QWidget* w) {
+  if (auto* box = qobject_cast<const QLineEdit*>(w)) return box->text().toStdString();
+  if (auto* combo = qobject_cast<const QComboBox*>(w)) return combo->currentText().toStdString();
   return {};
 }
 
@@ -206,9 +183,8 @@ class Choice {
     const TableGrid g = tableOf(cell);
     Block block;
     for (int r = top_; r <= bottom_; ++r) {
-      QStringList row;
-      for (int c = left_; c <= right_; ++c) row << cellText(g.at(r, c));
-      block.push_back(row);
+      block.emplace_back();
+      for (int c = left_; c <= right_; ++c) block.back().push_back(cellText(g.at(r, c)));
     }
     return blockText(block);
   }
@@ -344,24 +320,9 @@ void installClipboard() {
   qApp->installEventFilter(filter);
 }
 
-Block parseBlock(const QString& text) {
-  QString t = text;
-  if (t.endsWith(QStringLiteral("\r\n")))
-    t.chop(2);
-  else if (t.endsWith(QLatin1Char('\n')) || t.endsWith(QLatin1Char('\r')))
-    t.chop(1);
-  if (text.isEmpty()) return {};
-  Block block;
-  static const QRegularExpression lineEnd(QStringLiteral("\r\n|\n|\r"));
-  for (const QString& line : t.split(lineEnd)) block.push_back(line.split(QLatin1Char('\t')));
-  return block;
-}
+Block parseBlock(const QString& text) { return vorel::parseBlock(text.toStdString()); }
 
-QString blockText(const Block& block) {
-  QString out;
-  for (const QStringList& row : block) out += row.join(QLatin1Char('\t')) + QLatin1Char('\n');
-  return out;
-}
+QString blockText(const Block& block) { return QString::fromStdString(vorel::blockText(block)); }
 
 QWidget* TableGrid::at(int row, int column) const {
   if (row < 0 || column < 0 || row >= rows || column >= columns) return nullptr;
@@ -396,24 +357,24 @@ bool pasteIntoTable(QLineEdit* cell, const QString& text) {
   const Block block = parseBlock(text);
   if (block.empty() || cell->isReadOnly()) return false;
   if (block.size() == 1 && block[0].size() == 1) {
-    cell->insert(block[0][0]);  // as a text box pastes: over the chosen text
+    cell->insert(
+        QString::fromStdString(block[0][0]));  // as a text box pastes: over the chosen text
     return true;
   }
   const TableGrid g = tableOf(cell);
   const auto [top, left] = g.find(cell);
   if (top < 0) return false;
-  int width = 0;
-  for (const QStringList& row : block) width = std::max(width, int(row.size()));
-  const int height = int(block.size());
-  if (top + height > g.rows || left + width > g.columns) {
-    platform().errorBox(tooLarge(cell->window(), height, width, top + height, left + width, g));
+  const std::string refusal =
+      pasteRefusal(block, top, left, g.rows, g.columns, hasRedesign(cell->window()));
+  if (!refusal.empty()) {
+    platform().errorBox(QString::fromStdString(refusal));
     return false;
   }
-  for (int r = 0; r < height; ++r)
-    for (int c = 0; c < int(block[std::size_t(r)].size()); ++c) {
-      QWidget* target = g.at(top + r, left + c);
+  for (std::size_t r = 0; r < block.size(); ++r)
+    for (std::size_t c = 0; c < block[r].size(); ++c) {
+      QWidget* target = g.at(top + int(r), left + int(c));
       if (writable(target))
-        static_cast<QLineEdit*>(target)->setText(block[std::size_t(r)][std::size_t(c)]);
+        static_cast<QLineEdit*>(target)->setText(QString::fromStdString(block[r][c]));
     }
   return true;
 }
@@ -427,9 +388,8 @@ QString tableText(QLineEdit* cell) {
   const TableGrid g = tableOf(cell);
   Block block;
   for (int r = 0; r < g.rows; ++r) {
-    QStringList row;
-    for (int c = 0; c < g.columns; ++c) row << cellText(g.at(r, c));
-    block.push_back(row);
+    block.emplace_back();
+    for (int c = 0; c < g.columns; ++c) block.back().push_back(cellText(g.at(r, c)));
   }
   return blockText(block);
 }

@@ -11,6 +11,7 @@
 
 #include "frame/chart.h"
 #include "frame/report.h"
+#include "frame/spreadsheet.h"
 
 class QComboBox;
 class QLineEdit;
@@ -26,12 +27,9 @@ class ChartView;
 // Installs the filter on the application; later calls do nothing.
 void installClipboard();
 
-// A block of spreadsheet text: one row a line (CR LF, LF or CR), columns
-// split at tabs; one line end at the end closes the last row and adds none.
-using Block = std::vector<QStringList>;
+// Spreadsheet text of the clipboard, read and written by the core's rules.
+using vorel::Block;
 Block parseBlock(const QString& text);
-// The block as a spreadsheet copies it: tabs between values, a line end after
-// each row.
 QString blockText(const Block& block);
 
 // An entry table as the student sees it: the shown cells of the controls that
