@@ -252,6 +252,22 @@ TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   EXPECT_EQ(clipboard().text(), points);
 }
 
+// The MRP solution keeps its records in cells of their own, not in a report:
+// the screen copies them as a table, a record's heads and then its rows.
+TEST_F(Clipboard, RecordsInCellsCopyAsATable) {
+  openFile("GI_MRP", examplePath("mrp", "un-nivel.txt"));
+  press("GI_MRP", "Resolver");
+  gui::Screen* solution = screen("GI_MRP_Solucion1");
+  ASSERT_TRUE(solution && solution->isVisible());
+  clipboard().clear();
+  copy(solution);
+  const QStringList lines = clipboard().text().split('\n', Qt::SkipEmptyParts);
+  ASSERT_EQ(lines.size(), 12);  // two articles, each its heads and five rows
+  EXPECT_EQ(lines[0].split('\t')[0], text("GI_MRP_Solucion1", "ArtS(0)"));
+  EXPECT_EQ(lines[6].split('\t')[0], text("GI_MRP_Solucion1", "ArtS(1)"));
+  EXPECT_EQ(lines[1].split('\t').size(), lines[0].split('\t').size());
+}
+
 // Every entry table of every model, shaped by the model's first example: each
 // shown cell has a place of its own in the table as pasted, and a block that
 // fills the table from its first cell writes every shown cell it covers, in

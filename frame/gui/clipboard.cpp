@@ -206,6 +206,13 @@ QLineEdit* tableCell(QObject* o) {
   return box && arrayElement(box) && box->parentWidget() ? box : nullptr;
 }
 
+// The first table cell shown on a screen.
+QLineEdit* firstCell(QWidget* screen) {
+  for (QLineEdit* box : screen->findChildren<QLineEdit*>())
+    if (tableCell(box) && box->isVisibleTo(screen)) return box;
+  return nullptr;
+}
+
 void popUp(QMenu* menu, const QPoint& at) {
   menu->exec(at);
   delete menu;
@@ -256,10 +263,13 @@ class ClipboardFilter : public QObject {
     if (!solution) return false;
     // A text box of the screen with text chosen copies that text itself.
     if (auto* box = qobject_cast<QLineEdit*>(w); box && box->hasSelectedText()) return false;
+    ReportBox* report = solution->Solucion1();
     if (auto* chart = enclosing<ChartView>(w))
       toClipboard(chartMimeData(chart->data()));
-    else
-      toClipboard(reportMimeData(*solution->Solucion1()));
+    else if (report && !report->isHidden())
+      toClipboard(reportMimeData(*report));
+    else if (QLineEdit* cell = firstCell(solution))  // records in cells of their own (MRP)
+      toClipboard(tableText(cell));
     return true;
   }
 
