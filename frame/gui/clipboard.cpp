@@ -197,7 +197,7 @@ class Choice {
 };
 
 Choice& choice() {
-  static Choice c;
+  static Choice& c = *new Choice();  // outlives the application's widgets and palettes
   return c;
 }
 
@@ -243,15 +243,16 @@ class ClipboardFilter : public QObject {
  private:
   bool key(QWidget* w, QKeyEvent* e) {
     const bool copy = e->matches(QKeySequence::Copy), paste = e->matches(QKeySequence::Paste);
+    // Any key but Ctrl+C ends a choice of cells, before it can act on them.
+    const bool modifierOnly = e->key() == Qt::Key_Shift || e->key() == Qt::Key_Control ||
+                              e->key() == Qt::Key_Alt || e->key() == Qt::Key_Meta;
+    if (!copy && !modifierOnly) choice().clear();
     if (QLineEdit* cell = tableCell(w)) {
       focusIn(cell);
       if (copy) {
         toClipboard(cellCopyText(cell));
         return true;
       }
-      const bool modifierOnly = e->key() == Qt::Key_Shift || e->key() == Qt::Key_Control ||
-                                e->key() == Qt::Key_Alt || e->key() == Qt::Key_Meta;
-      if (!modifierOnly) choice().clear();
       if (paste && !cell->isReadOnly()) {
         pasteIntoTable(cell, QGuiApplication::clipboard()->text());
         return true;
