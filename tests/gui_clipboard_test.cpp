@@ -6,12 +6,14 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 #include <map>
 
 #include "frame/catalogue.h"
@@ -250,6 +252,43 @@ TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   chartMenu->findChild<QAction*>("Copiar")->trigger();
   EXPECT_TRUE(clipboard().mimeData()->hasImage());
   EXPECT_EQ(clipboard().text(), points);
+}
+
+// A right click opens the menu of what it falls on; `act` is triggered from
+// it while it is open, and the menu closed.
+void rightClick(QWidget* w, const char* act) {
+  QTimer::singleShot(0, [act] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return;
+    if (auto* action = menu->findChild<QAction*>(act)) action->trigger();
+    menu->close();
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2), w->mapToGlobal(QPoint(2, 2)));
+  QApplication::sendEvent(w, &event);
+}
+
+TEST_F(Clipboard, RightClickMenusPasteAndCopy) {
+  openFile(kControl, examplePath("control-variables", "cuarenta-y-cinco.txt"));
+  clipboard().setText("1\t2\n3\t4\n");
+  rightClick(box(kControl, "M(43)"), "pegar");
+  EXPECT_EQ(column("M", 45).mid(43), (QStringList{"1", "3"}));
+  EXPECT_EQ(text(kControl, "S(44)"), "4");
+  rightClick(box(kControl, "S(44)"), "copiar-tabla");
+  EXPECT_TRUE(clipboard().text().endsWith("1\t2\n3\t4\n"));
+  EXPECT_EQ(clipboard().text().count('\n'), 45);
+
+  openFile(kControl, examplePath("control-variables", "cuarenta-y-cinco.txt"));
+  press(kControl, "Resolver");
+  auto* solution = dynamic_cast<gui::ChartSolutionScreen*>(screen(kMedias));
+  ASSERT_NE(solution, nullptr);
+  clipboard().clear();
+  rightClick(solution->Solucion1()->widget(), "Copiar");
+  EXPECT_EQ(clipboard().text().toStdString(),
+            golden("control-variables", "cuarenta-y-cinco.txt", "report"));
+  clipboard().clear();
+  rightClick(solution->MSChart1()->viewport(), "Copiar");
+  EXPECT_TRUE(clipboard().mimeData()->hasImage());
+  EXPECT_TRUE(clipboard().text().startsWith("Punto\tMedias"));
 }
 
 // The MRP solution keeps its records in cells of their own, not in a report:
