@@ -287,6 +287,7 @@ TEST_F(Clipboard, RightClickMenusPasteAndCopy) {
             golden("control-variables", "cuarenta-y-cinco.txt", "report"));
   clipboard().clear();
   rightClick(solution->MSChart1()->viewport(), "Copiar");
+  ASSERT_NE(clipboard().mimeData(), nullptr);
   EXPECT_TRUE(clipboard().mimeData()->hasImage());
   EXPECT_TRUE(clipboard().text().startsWith("Punto\tMedias"));
 }
