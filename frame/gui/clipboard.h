@@ -32,9 +32,10 @@ using vorel::Block;
 Block parseBlock(const QString& text);
 QString blockText(const Block& block);
 
-// An entry table as the student sees it: the shown cells of the controls that
-// share a parent with an element of a control array, in rows and columns of
-// the screen. A table whose order on screen is not its order of rows (the
+// An entry table as the student sees it: the shown text boxes and selectors
+// named as elements of control arrays ("C1(0)") that share a parent, in the
+// rows and columns of their places on the screen (controls whose spans
+// overlap share a row or a column). A table whose order on screen is not its order of rows (the
 // control charts put 45 samples in three blocks of 15) declares its columns.
 struct TableGrid {
   int rows = 0, columns = 0;
@@ -51,9 +52,10 @@ TableGrid tableOf(QLineEdit* cell);
 void setTableColumns(QWidget* table, const std::vector<std::vector<QWidget*>>& columns);
 
 // Pastes `text` at `cell`: one value goes into the cell as a text box pastes
-// it; a block goes into the shown cells from `cell` right and down, or, where
-// it does not fit, nothing moves and the message box says so. True when
-// something was pasted.
+// it; a block goes into the shown cells from `cell` right and down (a value
+// that falls on a selector, a read-only box or a gap of the table is passed
+// over), or, where it does not fit, nothing moves and the message box says
+// so. True when something was pasted.
 bool pasteIntoTable(QLineEdit* cell, const QString& text);
 // The text Ctrl+C copies from a cell: the cells chosen with Shift+click, or
 // else the cell's selected text, or else its whole text.
@@ -64,14 +66,14 @@ QString tableText(QLineEdit* cell);
 // What Copiar puts on the clipboard from a report box: its plain text, laid
 // out in zones as the command-line program prints it.
 QMimeData* reportMimeData(const ReportBox& box);
-// A chart: its picture and its data as spreadsheet text (a header of the
-// category and the series, then one row per point).
+// A chart: its picture and its data as spreadsheet text (the header "Punto"
+// and the series, then one row per point).
 QMimeData* chartMimeData(const Chart& chart);
 QString chartText(const Chart& chart);
 
 // The context menus the filter opens (tests trigger their actions):
-// a table cell's standard menu with Copiar, Pegar and Copiar tabla acting on
-// the table; Copiar on a report box or a chart.
+// a text box's menu in Spanish, its Copiar and Pegar acting on the table, and
+// Copiar tabla; Copiar on a report box or a chart.
 QMenu* cellMenu(QLineEdit* cell);
 QMenu* reportMenu(ReportBox* box);
 QMenu* chartMenu(ChartView* chart);
