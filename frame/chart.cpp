@@ -10,6 +10,24 @@ std::string number(double v) {
   const float single = static_cast<float>(v);
   return double(single) == v ? Str(single) : Str(v);
 }
+
+// The header of the points and series, then a row per point, tab-separated;
+// `bare` drops the blank a positive number starts with.
+std::string table(const Chart& chart, bool bare) {
+  std::string out = "Punto";
+  for (const std::string& s : chart.series)
+    out += chart.kind == ChartKind::XY ? "\t" + s + " (x)\t" + s + " (y)" : "\t" + s;
+  out += "\n";
+  for (std::size_t r = 0; r < chart.matrix.size(); ++r) {
+    out += r < chart.rows.size() ? chart.rows[r] : std::to_string(r + 1);
+    for (double v : chart.matrix[r]) {
+      const std::string n = number(v);
+      out += "\t" + (bare && n.starts_with(' ') ? n.substr(1) : n);
+    }
+    out += "\n";
+  }
+  return out;
+}
 }  // namespace
 
 std::string renderText(const Chart& chart) {
@@ -23,16 +41,9 @@ std::string renderText(const Chart& chart) {
     out += " (mínimo" + Str(chart.axis.minimum) + ", máximo" + Str(chart.axis.maximum) +
            ", división" + Str(chart.axis.majorDivision) + ")\n";
   out += "Página: izquierda" + Str(chart.pageLeft) + ", arriba" + Str(chart.pageTop) + "\n";
-  out += "Punto";
-  for (const std::string& s : chart.series)
-    out += chart.kind == ChartKind::XY ? "\t" + s + " (x)\t" + s + " (y)" : "\t" + s;
-  out += "\n";
-  for (std::size_t r = 0; r < chart.matrix.size(); ++r) {
-    out += r < chart.rows.size() ? chart.rows[r] : std::to_string(r + 1);
-    for (double v : chart.matrix[r]) out += "\t" + number(v);
-    out += "\n";
-  }
-  return out;
+  return out + table(chart, false);
 }
+
+std::string renderTable(const Chart& chart) { return table(chart, true); }
 
 }  // namespace vorel

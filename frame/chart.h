@@ -31,8 +31,8 @@ struct Chart {
   // Where Imprimir paints the chart: fractions of the page's width and height.
   double pageLeft = 0, pageTop = 0;
   ChartKind kind = ChartKind::Lines;
-  std::string title;                        // above the chart; empty for none
-  std::string categoryTitle, valueTitle;    // the axes' titles; empty for none
+  std::string title;                      // above the chart; empty for none
+  std::string categoryTitle, valueTitle;  // the axes' titles; empty for none
   bool operator==(const Chart&) const = default;
   bool empty() const { return matrix.empty(); }
 };
@@ -41,5 +41,9 @@ struct Chart {
 // one line per row with its label and its values, tab-separated. What the
 // command-line program prints and the tests compare.
 std::string renderText(const Chart& chart);
+// The points alone, as a spreadsheet takes them: the header "Punto" and the
+// series, then one line per point, its label and its values tab-separated,
+// each number without the blank a positive one is written with.
+std::string renderTable(const Chart& chart);
 
 }  // namespace vorel

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 
+#include "frame/gui/clipboard.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/table_screen.h"
 #include "location_equipment/selec_van_screens.h"
@@ -51,6 +52,8 @@ void SampleTable::create(gui::EntryScreen& screen, QVBoxLayout* body, const QStr
     grid->addWidget(second(i), row, column + 2);
   }
   grid->setColumnStretch(12, 1);
+  // A block pasted runs down the samples, not down the blocks on screen.
+  gui::setTableColumns(frame, {{first.begin(), first.end()}, {second.begin(), second.end()}});
   gui::placeTable(body, screen.fieldGrid(), frame);
 }
 

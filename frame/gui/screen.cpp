@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "frame/gui/clipboard.h"
 #include "frame/gui/help_window.h"
 #include "frame/gui/keyboard.h"
 #include "frame/gui/picture_button.h"
@@ -90,6 +91,7 @@ Screen::Screen(const std::string& name)
   // Selector lists open below their box, always in the same place, not
   // lined up on the current choice.
   setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+  installClipboard();
   if (info_) setWindowTitle(QString::fromStdString(info_->caption));
   auto* outer = new QVBoxLayout(this);
   outer->setContentsMargins(0, 0, 0, 0);
