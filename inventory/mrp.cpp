@@ -385,22 +385,27 @@ namespace {
 const char* const kRowLabels[5] = {"Necesidades Brutas", "R. Programadas", "Inventario Disp.",
                                    "Necesidades Netas", "Lanzamiento Pedido"};
 
+// An article's head cells, then its five rows over the weeks from..to-1, each
+// row label followed by `steps` zone steps before the first week.
+void article(Report& out, const MrpRecords& r, int k, int steps, int from, int to) {
+  const std::size_t c = at(k);
+  out.line(Z, r.ArtS[c], Z, r.Stock[c], Z, r.StockSeg[c], Z, r.TSS[c]);
+  const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
+  for (int row = 0; row < 5; ++row) {
+    out.cont(Z, kRowLabels[row]);
+    for (int step = 0; step < steps; ++step) out.cont(Z);
+    for (int j = from; j < to; ++j) out.cont((*rows[row])[c][at(j)], Z);
+    out.line();
+  }
+}
+
 // The record blocks over the weeks from..to-1.
 void records(Report& out, const MrpRecords& r, int from, int to) {
   out.line(Z, "Artículo", Z, "Stock", Z, "S.S.", Z, "T.S.");
   out.cont(Z, "Semanas", Z, Z);
   for (int j = from; j < to; ++j) out.cont(std::to_string(j + 1), Z);
   out.line();
-  for (int k = 0; k < r.articles; ++k) {
-    const std::size_t c = at(k);
-    out.line(Z, r.ArtS[c], Z, r.Stock[c], Z, r.StockSeg[c], Z, r.TSS[c]);
-    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row) {
-      out.cont(Z, kRowLabels[row], Z);
-      for (int j = from; j < to; ++j) out.cont((*rows[row])[c][at(j)], Z);
-      out.line();
-    }
-  }
+  for (int k = 0; k < r.articles; ++k) article(out, r, k, 1, from, to);
 }
 
 }  // namespace
@@ -424,22 +429,11 @@ Report printout(const MrpFields&, const MrpRecords& r) {
   out.cont(Z, Z, Z, Z, Z);
   for (int j = 0; j < r.weeks; ++j) out.cont(std::to_string(j + 1), Z);
   out.line();
-  for (int k = 0; k < r.articles; ++k) {
-    const std::size_t c = at(k);
-    out.line(Z, r.ArtS[c], Z, r.Stock[c], Z, r.StockSeg[c], Z, r.TSS[c]);
-    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row) {
-      out.cont(Z, kRowLabels[row], Z, Z, Z);
-      for (int j = 0; j < r.weeks; ++j) out.cont((*rows[row])[c][at(j)], Z);
-      out.line();
-    }
-  }
+  for (int k = 0; k < r.articles; ++k) article(out, r, k, 3, 0, r.weeks);
   return out;
 }
 
-Pages solveAndReport(MrpFields& f) {
-  return solvedPages(f);
-}
+Pages solveAndReport(MrpFields& f) { return solvedPages(f); }
 
 void exchange(ProblemFile& file, MrpFields& f) {
   file.text(f.Titulo1);
