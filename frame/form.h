@@ -35,6 +35,7 @@ struct Binding {
   std::function<std::string*(Fields&)> text = {};
   std::function<bool*(Fields&)> visible = {};
   std::function<int*(Fields&)> index = {};
+  std::function<bool*(Fields&)> checked = {};
 };
 
 // A text box that shows a member.
@@ -48,6 +49,31 @@ Binding<Fields> textOf(std::string control, std::string Fields::*member) {
 template <class Fields>
 using Edit = Messages (*)(Fields&);
 
+// What a solution screen shows after its activation, kept while it is on view:
+// its pages and, where it browses, which browsing commands show and what each
+// one shows next.
+class Solution {
+ public:
+  explicit Solution(Pages pages = {}) : pages_(std::move(pages)) {}
+  virtual ~Solution() = default;
+  const Pages& pages() const { return pages_; }
+  // Whether a browsing command of the screen shows now.
+  virtual bool shows(std::string_view /*command*/) const { return true; }
+  // A browsing command pressed: the pages change; false where the screen has
+  // no such command.
+  virtual bool press(std::string_view /*command*/) { return false; }
+
+ protected:
+  Pages pages_;
+};
+
+// A solution computed from the entry's fields, which it may change (the
+// samples a control chart removes). `stepBudget` bounds a method that may never
+// end (0: no bound); once spent it throws DoesNotEnd and the caller tries again
+// with more, so a page or window stays responsive meanwhile.
+template <class Fields>
+using Solver = std::function<std::unique_ptr<Solution>(Fields& entry, long stepBudget)>;
+
 template <class Fields>
 struct Form {
   ui::Description entry;
@@ -55,6 +81,15 @@ struct Form {
   std::vector<Binding<Fields>> bindings;  // the title field first
   std::vector<std::pair<std::string, Edit<Fields>>> edits;
   ModelFunctions<Fields> model;
+  // Where the solution screen browses or changes its entry; otherwise its
+  // pages are model.solveAndReport's on a copy of the fields.
+  Solver<Fields> solver = {};
+
+  std::unique_ptr<Solution> solve(Fields& entry, long stepBudget) const {
+    if (solver) return solver(entry, stepBudget);
+    Fields copy = entry;
+    return std::make_unique<Solution>(model.solveAndReport(copy));
+  }
 
   const Binding<Fields>* binding(std::string_view control) const {
     for (const Binding<Fields>& b : bindings)
@@ -69,6 +104,7 @@ struct ControlState {
   const std::string* text;
   const bool* visible;
   const int* index;
+  const bool* checked;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -84,6 +120,8 @@ class EntryForm {
   // no such control.
   virtual bool setText(std::string_view control, std::string text) = 0;
   virtual bool setIndex(std::string_view control, int index) = 0;
+  // An option's or a check box's tick.
+  virtual bool setChecked(std::string_view control, bool checked) = 0;
   // Runs an edit of the fields by name; false where there is none.
   virtual bool edit(std::string_view name, Messages& messages) = 0;
 
@@ -93,8 +131,12 @@ class EntryForm {
   // guardar: the bytes of the file.
   virtual std::string guardar() = 0;
   virtual Messages check() const = 0;
-  // The solution screen's activation on the fields as they stand.
-  virtual Pages solve() const = 0;
+  // The solution screen's activation on the fields as they stand; the
+  // solution stays until the next one. Throws DoesNotEnd where the budget
+  // was spent (see Solver).
+  virtual Solution& solve(long stepBudget = 0) = 0;
+  // The last solution, null before the first.
+  virtual Solution* lastSolution() = 0;
 };
 
 template <class Fields>
@@ -108,7 +150,8 @@ class FieldsForm : public EntryForm {
   void each(const std::function<void(const ControlState&)>& visit) override {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
-             b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr});
+             b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
+             b.checked ? b.checked(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);
@@ -120,6 +163,12 @@ class FieldsForm : public EntryForm {
     const Binding<Fields>* b = form_.binding(control);
     if (!b || !b->index) return false;
     *b->index(fields_) = index;
+    return true;
+  }
+  bool setChecked(std::string_view control, bool checked) override {
+    const Binding<Fields>* b = form_.binding(control);
+    if (!b || !b->checked) return false;
+    *b->checked(fields_) = checked;
     return true;
   }
   bool edit(std::string_view name, Messages& messages) override {
@@ -140,14 +189,17 @@ class FieldsForm : public EntryForm {
     return out.bytes();
   }
   Messages check() const override { return form_.model.check(fields_); }
-  Pages solve() const override {
-    Fields f = fields_;
-    return form_.model.solveAndReport(f);
+  Solution& solve(long stepBudget) override {
+    solution_.reset();
+    solution_ = form_.solve(fields_, stepBudget);
+    return *solution_;
   }
+  Solution* lastSolution() override { return solution_.get(); }
 
  private:
   const Form<Fields>& form_;
   Fields fields_;
+  std::unique_ptr<Solution> solution_;
 };
 
 // A form's live fields, for a catalogue entry.

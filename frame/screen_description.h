@@ -25,6 +25,9 @@ enum class Action {
   Minimizar,
   Cerrar,
   Show,  // a menu's picture: shows `target`, hides `hides`
+  Edit,  // an entry screen's command that runs the edit of the fields named `target`
+         // (Rediseñar), then puts the focus in the first visible cell of the table
+  Browse,  // a solution screen's browsing command: the solution shows another page
   None,  // a picture that does nothing when clicked
 };
 
@@ -37,6 +40,7 @@ struct Command {
   Action action = Action::None;
   std::string target, hides;  // Show: what it shows and what it hides (see nav::MenuChoice)
   bool enabled = true;
+  bool visible = true;  // a browsing command: whether it shows before the solution says
   int size = 36;  // the picture's side in pixels at scale 1
 };
 
@@ -46,6 +50,9 @@ enum class ControlKind {
   Selector,   // a list to choose from (a combo box)
   Cell,       // a text box of a table
   ReportBox,  // the box a solution screen paints its report on
+  Option,     // a choice among the options of the same `family` (a radio button)
+  Check,      // a box ticked or not
+  Chart,      // the chart a solution screen draws beside its report
 };
 
 struct Control {
@@ -65,7 +72,10 @@ struct Control {
   int width = 0, height = 0;
   bool visible = true;
   std::vector<std::string> items;  // a selector's list
-  std::string edit;  // a selector: the edit of the fields its click runs (see Form::edits)
+  // A selector, option or check box: the edit of the fields its click runs
+  // (see Form::edits), after the click has set its index or its tick.
+  std::string edit;
+  std::string family;  // an option: the set of options it excludes the others of
 };
 
 struct Description {

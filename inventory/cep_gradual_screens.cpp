@@ -1,10 +1,10 @@
 #include "inventory/cep_gradual_screens.h"
 
+#include "frame/gui/described_screens.h"
 #include "inventory/pedido_forms.h"
-#include "inventory/pedido_screens.h"
 
 namespace vorel::inventory {
 
-void registerGradualScreens() { registerPedidoScreens(gradualForm()); }
+void registerGradualScreens() { gui::registerDescribedScreens(gradualForm()); }
 
 }  // namespace vorel::inventory

@@ -1,10 +1,10 @@
 #include "inventory/cep_ruptura_screens.h"
 
+#include "frame/gui/described_screens.h"
 #include "inventory/pedido_forms.h"
-#include "inventory/pedido_screens.h"
 
 namespace vorel::inventory {
 
-void registerRupturaScreens() { registerPedidoScreens(rupturaForm()); }
+void registerRupturaScreens() { gui::registerDescribedScreens(rupturaForm()); }
 
 }  // namespace vorel::inventory

@@ -1,10 +1,10 @@
 #include "inventory/eoq_screens.h"
 
+#include "frame/gui/described_screens.h"
 #include "inventory/pedido_forms.h"
-#include "inventory/pedido_screens.h"
 
 namespace vorel::inventory {
 
-void registerEoqScreens() { registerPedidoScreens(eoqForm()); }
+void registerEoqScreens() { gui::registerDescribedScreens(eoqForm()); }
 
 }  // namespace vorel::inventory

@@ -76,7 +76,7 @@ TEST_F(WebApi, AnOpenedExampleSolvesToItsGoldenTextAndSavesToTheSameBytes) {
     const char* saved = vorel_save(kEoq);
     EXPECT_EQ(std::string(saved, vorel_size()), file);
     EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[]})");
-    const std::string solved = vorel_solve(kEoq);
+    const std::string solved = vorel_solve(kEoq, 0);
     EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".report"))));
     EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".page"))));
   }
@@ -97,7 +97,7 @@ TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
   const std::string file = example("cep/libro.txt");
   vorel_open(kEoq, file.data(), static_cast<int>(file.size()));
   // Unmeasured, a character is a column: the first zone starts at 14.
-  EXPECT_THAT(std::string(vorel_solve(kEoq)),
+  EXPECT_THAT(std::string(vorel_solve(kEoq, 0)),
               HasSubstr(R"([{"x":14,"text":"Solución al problema:  Problema1"}])"));
   float widths[256];
   for (float& w : widths) w = 0.5f;
@@ -105,7 +105,7 @@ TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
   vorel_metrics(widths);
   // The average weighs the blank at 166 and the letters at 834 thousandths:
   // 0.458500 em, a zone of 6.419 em.
-  EXPECT_THAT(std::string(vorel_solve(kEoq)),
+  EXPECT_THAT(std::string(vorel_solve(kEoq, 0)),
               HasSubstr(R"([{"x":6.419,"text":"Solución al problema:  Problema1"}])"));
   for (float& w : widths) w = 1;
   vorel_metrics(widths);
@@ -120,7 +120,7 @@ TEST_F(WebApi, ARunTimeErrorComesBackAsTheBoxThePlatformShows) {
                                {"P", "1"}})
     type(control, text);
   EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[]})");
-  EXPECT_EQ(std::string(vorel_solve(kEoq)),
+  EXPECT_EQ(std::string(vorel_solve(kEoq, 0)),
             R"({"error":{"number":6,"title":"Vorel","text":"Error en tiempo de ejecución )"
             R"('6':\n\nDesbordamiento"}})");
 }

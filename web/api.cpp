@@ -57,6 +57,10 @@ const char* actionName(ui::Action a) {
       return "cerrar";
     case ui::Action::Show:
       return "show";
+    case ui::Action::Edit:
+      return "edit";
+    case ui::Action::Browse:
+      return "browse";
     case ui::Action::None:
       break;
   }
@@ -75,6 +79,12 @@ const char* kindName(ui::ControlKind k) {
       return "cell";
     case ui::ControlKind::ReportBox:
       return "report";
+    case ui::ControlKind::Option:
+      return "option";
+    case ui::ControlKind::Check:
+      return "check";
+    case ui::ControlKind::Chart:
+      return "chart";
   }
   return "label";
 }
@@ -92,7 +102,8 @@ void write(Json& j, const ui::Control& c) {
       .field("height", c.height)
       .field("visible", c.visible)
       .field("group", c.group)
-      .field("edit", c.edit);
+      .field("edit", c.edit)
+      .field("family", c.family);
   j.key("items").open('[');
   for (const std::string& item : c.items) j.value(item);
   j.close(']').close('}');
@@ -108,6 +119,7 @@ void write(Json& j, const ui::Command& c) {
       .field("target", c.target)
       .field("hides", c.hides)
       .field("enabled", c.enabled)
+      .field("visible", c.visible)
       .field("size", c.size)
       .close('}');
 }
@@ -215,6 +227,7 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.text) j.field("text", *c.text);
     if (c.visible) j.field("visible", *c.visible);
     if (c.index) j.field("index", *c.index);
+    if (c.checked) j.field("checked", *c.checked);
     j.close('}');
   });
   j.close('}');
@@ -241,6 +254,22 @@ const char* runtimeError(const std::exception& e) {
       .field("title", ui::kRuntimeErrorTitle)
       .field("text", ui::runtimeErrorText(error.number(), error.what()));
   return give(j.close('}').close('}'));
+}
+
+// What a solution shows: its pages laid out, their plain text, and whether
+// each browsing command of the screen shows.
+const char* solutionOf(EntryForm& f, const Solution& solution) {
+  const Pages& pages = solution.pages();
+  Json j;
+  j.open('{');
+  writeLaidOut(j, "screen", pages.screen);
+  writeLaidOut(j, "page", pages.page);
+  j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
+  j.key("commands").open('{');
+  for (const ui::Command& c : f.solution().commands)
+    if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
+  j.close('}');
+  return give(j.close('}'));
 }
 
 }  // namespace
@@ -355,20 +384,33 @@ const char* vorel_check(const char* screen) {
   }
 }
 
-const char* vorel_solve(const char* screen) {
+const char* vorel_solve(const char* screen, double stepBudget) {
   EntryForm* f = form(screen);
   if (!f) return failure("not loaded");
   try {
-    const Pages pages = f->solve();
-    Json j;
-    j.open('{');
-    writeLaidOut(j, "screen", pages.screen);
-    writeLaidOut(j, "page", pages.page);
-    j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
-    return give(j.close('}'));
+    return solutionOf(*f, f->solve(static_cast<long>(stepBudget)));
+  } catch (const DoesNotEnd&) {
+    return give(Json().open('{').field("doesNotEnd", true).close('}'));
   } catch (const std::exception& e) {
     return runtimeError(e);
   }
+}
+
+const char* vorel_press(const char* screen, const char* command) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  Solution* solution = f->lastSolution();
+  try {
+    if (!solution || !solution->press(command)) return failure("no such command");
+    return solutionOf(*f, *solution);
+  } catch (const std::exception& e) {
+    return runtimeError(e);
+  }
+}
+
+int vorel_set_checked(const char* screen, const char* control, int checked) {
+  EntryForm* f = form(screen);
+  return f && f->setChecked(control, checked != 0);
 }
 
 const char* vorel_open(const char* screen, const char* bytes, int size) {

@@ -19,6 +19,8 @@ int vorel_set_index(const char* screen, const char* control, int index);
 // What every bound control shows: {"D": {"text"}, "A1": {"text", "visible"},
 // "cmbIntervalos": {"index"}, "Intervalo1": {"visible"}}.
 const char* vorel_fields(const char* screen);
+// An option's or a check box's tick; false where the screen has no such control.
+int vorel_set_checked(const char* screen, const char* control, int checked);
 // Runs an edit of the fields by name (a selector's click): {"messages",
 // "fields"}.
 const char* vorel_edit(const char* screen, const char* name);
@@ -26,9 +28,15 @@ const char* vorel_nuevo(const char* screen);
 // Resolver's checks: {"messages": [{"text", "focus"}]}.
 const char* vorel_check(const char* screen);
 // The solution screen's activation: the report and the printed page, laid out
-// in zones ({"screen": [[{"x", "text"}]], "page": ..., "text", "pageText"}), or
-// {"error": {"number", "title", "text"}} for a run-time error.
-const char* vorel_solve(const char* screen);
+// in zones, and whether each browsing command shows ({"screen": [[{"x",
+// "text"}]], "page": ..., "text", "pageText", "commands": {"Back1": false}}),
+// or {"error": {"number", "title", "text"}} for a run-time error. A method
+// that may never end stops once `stepBudget` steps are spent (0: no bound)
+// and answers {"doesNotEnd": true}: the page tries again with more.
+const char* vorel_solve(const char* screen, double stepBudget);
+// A browsing command of the solution screen: the solution as vorel_solve
+// gives it.
+const char* vorel_press(const char* screen, const char* command);
 // abrir of a file's bytes (Windows-1252): the fields as they stand after it.
 const char* vorel_open(const char* screen, const char* bytes, int size);
 // guardar: the bytes of the file; vorel_size() gives their count.

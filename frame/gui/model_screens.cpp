@@ -24,6 +24,7 @@ QVBoxLayout* captioned(QAbstractButton* button) {
   column->addWidget(button, 0, Qt::AlignHCenter);
   auto* caption = new QLabel(button->toolTip(), button->parentWidget());
   caption->setStyleSheet("font-size: 8.5pt; color: #4A5568;");
+  caption->setProperty("captionOf", button->objectName());
   column->addWidget(caption, 0, Qt::AlignHCenter);
   return column;
 }
@@ -73,6 +74,7 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
   auto* commands = new QHBoxLayout();
   commands->setSpacing(18);
   for (const ui::Command& c : d.commands) {
+    if (c.action == ui::Action::Edit) continue;  // beside the fields: see drawDescribed
     if (c.action == ui::Action::Resolver) commands->addStretch();
     commands->addLayout(captioned(command(c, [this, action = c.action] {
       switch (action) {

@@ -26,11 +26,17 @@ export async function loadCore() {
       m.ccall('vorel_set', 'number', ['string', 'string', 'string'], [screen, control, value]) === 1,
     setIndex: (screen, control, index) =>
       m.ccall('vorel_set_index', 'number', ['string', 'string', 'number'], [screen, control, index]) === 1,
+    setChecked: (screen, control, checked) =>
+      m.ccall('vorel_set_checked', 'number', ['string', 'string', 'number'],
+        [screen, control, checked ? 1 : 0]) === 1,
     fields: (screen) => json('vorel_fields', screen),
     edit: (screen, name) => json('vorel_edit', screen, name),
     nuevo: (screen) => json('vorel_nuevo', screen),
     check: (screen) => json('vorel_check', screen),
-    solve: (screen) => json('vorel_solve', screen),
+    // A step budget of 0 sets no bound; see vorel_solve.
+    solve: (screen, stepBudget = 0) =>
+      JSON.parse(m.ccall('vorel_solve', 'string', ['string', 'number'], [screen, stepBudget])),
+    press: (screen, command) => json('vorel_press', screen, command),
     // abrir: the file's bytes as they are on disk (Windows-1252, CR LF).
     open: (screen, bytes) =>
       JSON.parse(withBytes(bytes, (at) =>
