@@ -51,10 +51,13 @@ export function menuScreen(info, d, press) {
 }
 
 // An entry screen: its text boxes report every change through `typed`, its
-// selectors through `chosen`; `showFields` puts the fields on it.
-export function entryScreen(info, d, fields, press, { typed, chosen }) {
+// selectors through `chosen`, its options and check boxes through `ticked`;
+// `showFields` puts the fields on it.
+export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const id = (name) => `${d.name}-${name}`;
-  const place = (c) => (c.group === 1 && c.row >= 0
+  // Every control at its place on its grid: the fields' grid, or the table's
+  // (whose row -1 is the text above it).
+  const place = (c) => (c.row >= 0 && c !== d.titleLabel && c !== d.titleField
     ? `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}` : undefined);
   const draw = (c) => {
     switch (c.kind) {
@@ -62,46 +65,81 @@ export function entryScreen(info, d, fields, press, { typed, chosen }) {
       case 'cell':
         return el('input', {
           type: 'text', id: id(c.name), name: c.name, className: c.kind, title: c.toolTip || undefined,
-          autocomplete: 'off', spellcheck: false, style: place(c),
-          'aria-label': c.kind === 'cell' ? c.name : undefined,
+          autocomplete: 'off', spellcheck: false, style: place(c), hidden: !c.visible,
+          'aria-label': c.kind === 'cell' ? c.toolTip || c.name : undefined,
           oninput: (e) => typed(c.name, e.target.value),
         });
       case 'selector':
         return el('select', {
-          id: id(c.name), name: c.name, onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
+          id: id(c.name), name: c.name, title: c.toolTip || undefined, style: place(c), hidden: !c.visible,
+          onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
         }, c.items.map((item) => el('option', { textContent: item })));
+      case 'option':
+      case 'check':
+        return el('label', { className: c.kind, style: place(c), hidden: !c.visible, title: c.toolTip || undefined },
+          el('input', {
+            type: c.kind === 'option' ? 'radio' : 'checkbox', id: id(c.name), name: c.name,
+            onchange: (e) => ticked(c.name, e.target.checked, c.edit),
+          }), c.text);
       default:
-        if (c.buddy) return el('label', { htmlFor: id(c.buddy), textContent: c.text });
+        if (c.buddy) {
+          return el('label', { htmlFor: id(c.buddy), name: c.name || undefined, textContent: c.text, style: place(c) });
+        }
         return el(c.row < 0 ? 'p' : 'span', {
-          className: c.row < 0 ? 'intro' : c.row === 0 ? 'cabecera' : 'rotulo',
-          name: c.name || undefined, textContent: c.text, style: place(c),
+          className: c.row < 0 ? 'intro' : c.group === 0 ? 'texto' : c.row === 0 ? 'cabecera' : 'rotulo',
+          name: c.name || undefined, textContent: c.text, style: place(c), hidden: !c.visible,
         });
     }
   };
   const group = (n) => d.controls.filter((c) => c.group === n).map(draw);
   const table = group(1);
+  const cell = d.controls.find((c) => c.kind === 'cell' && c.width);
   const title = el('div', { className: 'titulo' }, draw(d.titleLabel), draw(d.titleField));
+  // The commands that edit the fields (Rediseñar) stand beside them.
+  const lastColumn = Math.max(1, ...d.controls.filter((c) => c.group === 0).map((c) => c.column));
+  const edits = d.commands.filter((c) => c.action === 'edit').map((c, i) => el('button', {
+    type: 'button', className: 'editar', name: c.name, title: c.toolTip || undefined, textContent: c.caption,
+    style: `grid-row: ${i + 1} / span 2; grid-column: ${lastColumn + 2}`, onclick: () => press(c),
+  }));
   const commands = el('div', { className: 'ordenes' },
-    d.commands.map((c) => commandPicture(c, press, { captioned: true })));
+    d.commands.filter((c) => c.action !== 'edit').map((c) => commandPicture(c, press, { captioned: true })));
   const screen = windowFrame(info, d.heading, press,
     d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
-    el('div', { className: 'campos' }, group(0)),
+    el('div', { className: 'campos' }, group(0), edits),
     table.filter((e) => e.tagName === 'P'),
-    table.length > 0 && el('div', { className: 'tabla', role: 'group' }, table.filter((e) => e.tagName !== 'P')),
+    table.length > 0 && el('div', {
+      className: 'tabla', role: 'group', style: cell ? `--celda: ${cell.width}px` : undefined,
+    }, table.filter((e) => e.tagName !== 'P')),
     commands);
   showFields(screen, fields);
   return screen;
 }
 
-// A solution screen: the report box (painted by report.mjs) and Imprimir.
+// A solution screen: the report box (painted by report.mjs), its browsing
+// commands and Imprimir.
 export function solutionScreen(info, d, press) {
   const report = d.controls.find((c) => c.kind === 'report');
   const box = el('div', {
     className: 'informe', name: report.name, role: 'document', tabIndex: 0,
     'aria-label': d.heading, 'data-columns': report.width, 'data-lines': report.height,
   });
-  return windowFrame(info, d.heading, press, box,
-    el('div', { className: 'ordenes' }, d.commands.map((c) => commandPicture(c, press, { captioned: true }))));
+  const commands = d.commands.map((c) => {
+    const picture = commandPicture(c, press, { captioned: true });
+    if (c.action === 'browse') {
+      picture.classList.add('hojear');
+      picture.hidden = !c.visible;
+    }
+    return picture;
+  });
+  return windowFrame(info, d.heading, press, box, el('div', { className: 'ordenes' }, commands));
+}
+
+// Shows the browsing commands the solution offers.
+export function showCommands(screenElement, shown) {
+  for (const [name, visible] of Object.entries(shown ?? {})) {
+    const button = screenElement.querySelector(`.ordenes button[name="${CSS.escape(name)}"]`);
+    if (button) button.closest('.orden-rotulada').hidden = !visible;
+  }
 }
 
 // Puts what each bound control shows on the screen: a text box's text, a
@@ -110,8 +148,15 @@ export function showFields(screenElement, fields) {
   for (const [name, state] of Object.entries(fields)) {
     const control = screenElement.querySelector(`[name="${CSS.escape(name)}"]`);
     if (!control) continue;
-    if ('text' in state) control.value = state.text;
+    const isInput = control.tagName === 'INPUT' || control.tagName === 'SELECT';
+    if ('text' in state) {
+      if (isInput) control.value = state.text;
+      else control.textContent = state.text;
+    }
     if ('index' in state) control.selectedIndex = state.index;
-    if ('visible' in state) control.hidden = !state.visible;
+    if ('checked' in state) control.checked = state.checked;
+    // An option or check box shows and hides with its caption.
+    const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
+    if ('visible' in state) shown.hidden = !state.visible;
   }
 }
