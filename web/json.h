@@ -1,6 +1,8 @@
 // A small JSON writer for the browser module's answers.
 #pragma once
 
+#include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -68,6 +70,14 @@ class Json {
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%.6g", x);
     return raw(buffer);
+  }
+  // A number exactly as it is held: the shortest text that reads back as the
+  // same double. JSON has no word for NaN or the infinities: they are null.
+  Json& number(double x) {
+    if (!std::isfinite(x)) return raw("null");
+    char buffer[32];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, x).ptr;
+    return raw(std::string_view(buffer, std::size_t(end - buffer)));
   }
   // key: value
   template <class T>
