@@ -1,9 +1,9 @@
 // A small JSON writer for the browser module's answers.
 #pragma once
 
-#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -71,13 +71,17 @@ class Json {
     std::snprintf(buffer, sizeof buffer, "%.6g", x);
     return raw(buffer);
   }
-  // A number exactly as it is held: the shortest text that reads back as the
-  // same double. JSON has no word for NaN or the infinities: they are null.
+  // A number exactly as it is held: the fewest digits (15 to 17) that read
+  // back as the same double. JSON has no word for NaN or the infinities: they
+  // are null.
   Json& number(double x) {
     if (!std::isfinite(x)) return raw("null");
     char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, x).ptr;
-    return raw(std::string_view(buffer, std::size_t(end - buffer)));
+    for (int digits = 15; digits <= 17; ++digits) {
+      std::snprintf(buffer, sizeof buffer, "%.*g", digits, x);
+      if (std::strtod(buffer, nullptr) == x) break;
+    }
+    return raw(buffer);
   }
   // key: value
   template <class T>
