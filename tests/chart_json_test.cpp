@@ -1,8 +1,11 @@
 // The chart data the browser draws: every chart an example gives, written as
 // JSON and read back by a strict reader, holds the core's chart exactly.
+#include "web/chart_json.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <limits>
@@ -12,7 +15,6 @@
 #include <vector>
 
 #include "frame/catalogue.h"
-#include "web/chart_json.h"
 
 namespace vorel {
 namespace {
@@ -95,13 +97,17 @@ class Reader {
         if (d == '\\') {
           if (i_ >= s_.size()) break;
           d = s_[i_++];
-          if (d == 'n') d = '\n';
-          else if (d == 't') d = '\t';
-          else if (d == 'r') d = '\r';
+          if (d == 'n')
+            d = '\n';
+          else if (d == 't')
+            d = '\t';
+          else if (d == 'r')
+            d = '\r';
           else if (d == 'u') {
             d = static_cast<char>(std::stoi(s_.substr(i_, 4), nullptr, 16));
             i_ += 4;
-          } else if (d != '"' && d != '\\' && d != '/') return fail("a bad escape"), v;
+          } else if (d != '"' && d != '\\' && d != '/')
+            return fail("a bad escape"), v;
         }
         v.text += d;
       }
@@ -242,6 +248,22 @@ TEST(ChartJson, RowsKeepTheirOwnLengths) {
   expectHolds(v, c);
   EXPECT_EQ(v["rows"].items.size(), 0u);
   EXPECT_EQ(v["kind"].text, "lines");
+}
+
+// The command line prints the same JSON, for the browser's tests to draw.
+TEST(ChartJson, TheCommandLinePrintsItWithChartJson) {
+  const std::string file =
+      std::string(VOREL_SOURCE_DIR) + "/examples/costes-totales/tres-opciones.txt";
+  const Chart chart = findModel("costes-totales")->run(file).pages.chart;
+  ASSERT_FALSE(chart.empty());
+  std::string out;
+  FILE* pipe = popen(
+      (std::string(VOREL_REPORT_EXE) + " costes-totales '" + file + "' --chart-json").c_str(), "r");
+  ASSERT_NE(pipe, nullptr);
+  char buffer[4096];
+  for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) out.append(buffer, n);
+  EXPECT_EQ(pclose(pipe), 0);
+  EXPECT_EQ(out, web::chartJson(chart) + "\n");
 }
 
 }  // namespace

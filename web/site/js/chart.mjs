@@ -45,7 +45,8 @@ const MOST_ROW_LABELS = 15;
 // printf's %.6g: six significant digits, no trailing zeros, an exponent of at
 // least two digits beyond 1e6 or below 1e-4. Ties round away from zero, as
 // the desktop's formatting does.
-export function formatG(value, precision = 6) {
+export function formatG(value) {
+  const precision = 6;
   if (Number.isNaN(value)) return 'nan';
   if (!Number.isFinite(value)) return value > 0 ? 'inf' : '-inf';
   if (value === 0) return Object.is(value, -0) ? '-0' : '0';
