@@ -4,7 +4,7 @@
 // twice the picture's size, and FOLDER/charts.png with all of them.
 import { mkdirSync } from 'node:fs';
 import { openSite } from './browser.mjs';
-import { exampleChart, root } from './chart_text.mjs';
+import { exampleChart, root } from './example_charts.mjs';
 
 export const PICTURED = [
   ['curvas-experiencia', 'ochenta'],
