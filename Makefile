@@ -93,6 +93,7 @@ package: build
 screenshots: build web web-deps
 	@scripts/screenshots.sh $(BUILD)
 	@node web/tests/screenshots.mjs screenshots/web
+	@node web/tests/chart_pictures.mjs screenshots/web
 
 clean:
 	rm -rf $(BUILD) $(FUZZ_BUILD) $(BENCH_BUILD) $(WEB_BUILD)

@@ -10,6 +10,7 @@
 #include "cli/pdf.h"
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "web/chart_json.h"
 
 namespace {
 
@@ -17,13 +18,14 @@ using namespace vorel;
 
 void usage(std::ostream& out) {
   out << "Uso: vorel-report --list\n"
-         "     vorel-report MODELO FICHERO... [--print | --chart] [--grafico G]\n"
+         "     vorel-report MODELO FICHERO... [--print | --chart | --chart-json] [--grafico G]\n"
          "     vorel-report MODELO FICHERO --pdf SALIDA.pdf\n\n"
          "Lee cada FICHERO como lo abre la pantalla de entrada del MODELO, aplica las\n"
          "comprobaciones de Resolver e imprime el informe de la pantalla de solución.\n"
          "Con varios ficheros, cada informe va precedido de una línea «==> FICHERO <==».\n"
          "  --print     imprime la página impresa en lugar del informe de pantalla\n"
          "  --chart     imprime los datos del gráfico (nada si el modelo no tiene gráfico)\n"
+         "  --chart-json los mismos datos en JSON, como los dibuja la versión web\n"
          "  --pdf F     escribe la página impresa como PDF en F (un solo fichero)\n"
          "  --grafico G el gráfico G de un modelo con varios (abajo)\n\n"
          "Estado de salida (el mayor de los ficheros): 0 informe impreso; 1 comprobaciones\n"
@@ -71,6 +73,10 @@ int solve(const std::function<RunOutcome(const std::string&)>& run, int printErr
         std::cerr << error << "\n";
         return 2;
       }
+      return 0;
+    }
+    if (options.chartJson) {
+      if (!outcome.pages.chart.empty()) std::cout << web::chartJson(outcome.pages.chart) << "\n";
       return 0;
     }
     if (options.chart) {

@@ -25,6 +25,8 @@ Options parseOptions(int argc, const char* const* argv) {
       o.print = true;
     } else if (word == "--chart") {
       o.chart = true;
+    } else if (word == "--chart-json") {
+      o.chartJson = true;
     } else if (word == "--grafico" && i + 1 < argc) {
       o.grafico = argv[++i];
     } else if (word == "--pdf" && i + 1 < argc) {

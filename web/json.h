@@ -1,7 +1,9 @@
 // A small JSON writer for the browser module's answers.
 #pragma once
 
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -67,6 +69,18 @@ class Json {
   Json& value(double x) {
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%.6g", x);
+    return raw(buffer);
+  }
+  // A number exactly as it is held: the fewest digits (15 to 17) that read
+  // back as the same double. JSON has no word for NaN or the infinities: they
+  // are null.
+  Json& number(double x) {
+    if (!std::isfinite(x)) return raw("null");
+    char buffer[32];
+    for (int digits = 15; digits <= 17; ++digits) {
+      std::snprintf(buffer, sizeof buffer, "%.*g", digits, x);
+      if (std::strtod(buffer, nullptr) == x) break;
+    }
     return raw(buffer);
   }
   // key: value
