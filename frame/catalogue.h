@@ -63,9 +63,10 @@ CatalogueEntry catalogued(std::string id, std::string screen, std::string presse
 
 // The entry of a model whose screens are described as data.
 template <class Fields>
-CatalogueEntry catalogued(std::string id, const Form<Fields>& form) {
-  CatalogueEntry entry = catalogued<Fields>(std::move(id), form.entry.name, "", form.model.exchange,
-                                            form.model.check, form.model.solveAndReport);
+CatalogueEntry catalogued(std::string id, const Form<Fields>& form, std::string presses = "") {
+  CatalogueEntry entry =
+      catalogued<Fields>(std::move(id), form.entry.name, std::move(presses), form.model.exchange,
+                         form.model.check, form.model.solveAndReport);
   entry.form = liveForm(form);
   return entry;
 }

@@ -8,6 +8,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/form.h"
+#include "web/chart_json.h"
 #include "web/json.h"
 
 namespace vorel::web {
@@ -265,6 +266,7 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   writeLaidOut(j, "screen", pages.screen);
   writeLaidOut(j, "page", pages.page);
   j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
+  if (!pages.chart.empty()) j.key("chart").raw(chartJson(pages.chart));
   j.key("commands").open('{');
   for (const ui::Command& c : f.solution().commands)
     if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
@@ -295,6 +297,10 @@ const char* vorel_tree() {
         .field("help", nav::helpPage(s.name))
         .field("color", hexColor(ui::sectionColor(s.entry.empty() ? s.name : s.entry)))
         .field("described", described(s.name) || described(s.entry));
+    // An entry screen's model: its id (its examples' folder) and what a file
+    // run presses before Resolver.
+    if (const CatalogueEntry* model = findModel(s.name); model && model->screen == s.name)
+      j.field("model", model->id).field("presses", model->presses);
     j.key("solutions").open('[');
     for (const std::string& solution : s.solutions) j.value(solution);
     j.close(']');

@@ -91,13 +91,14 @@ class Json {
   }
 
   const std::string& str() const { return out_; }
-
- private:
+  // A value already written as JSON.
   Json& raw(std::string_view text) {
     comma();
     out_ += text;
     return *this;
   }
+
+ private:
   void comma() {
     if (!first_) out_ += ',';
     first_ = false;

@@ -39,3 +39,50 @@ export async function toMainMenu(site) {
 export async function press(page, name) {
   await page.locator(`#escritorio button[name="${name}"]`).first().click();
 }
+
+// The pictures that lead from the main menu to every screen a menu shows.
+export function menuPaths(tree) {
+  const paths = { APrincipal: [] };
+  for (let grown = true; grown;) {
+    grown = false;
+    for (const [name, menu] of Object.entries(tree.menus)) {
+      if (!paths[name]) continue;
+      for (const choice of menu.commands) {
+        if (choice.target && !paths[choice.target]) {
+          paths[choice.target] = [...paths[name], choice.name];
+          grown = true;
+        }
+      }
+    }
+  }
+  return paths;
+}
+
+// Through the menus to an entry screen by its pictures: from the screen on
+// view by its gohome, or from a fresh page.
+export async function openModel(site, path, screen) {
+  const { page } = site;
+  const home = page.locator('#escritorio .banda button[name="gohome"]');
+  if ((await page.evaluate(() => Boolean(window.vorel))) && (await home.count())) {
+    await home.click();
+    await onView(page, 'APrincipal').waitFor();
+  } else {
+    await toMainMenu(site);
+  }
+  for (const picture of path) await press(page, picture);
+  await onView(page, screen).waitFor();
+}
+
+// The message box on view: its title and text.
+export async function messageBox(page) {
+  const box = page.locator('dialog.caja[open]');
+  await box.waitFor();
+  return { title: await box.locator('header').textContent(), text: await box.locator('.texto').textContent() };
+}
+
+// abrir of a file through the page's file picker.
+export async function abrir(page, path) {
+  const [chooser] = await Promise.all([page.waitForEvent('filechooser'), press(page, 'abrir')]);
+  await chooser.setFiles(path);
+  await page.evaluate(() => window.vorel.reading);
+}

@@ -3,8 +3,11 @@
 // boxes, and the window commands.
 import { test, before, after } from 'node:test';
 import assert from 'node:assert/strict';
-import { readFileSync, readdirSync } from 'node:fs';
-import { openSite, toMainMenu, press, onView, root } from './browser.mjs';
+import { readFileSync } from 'node:fs';
+import {
+  openSite, toMainMenu, press, onView, root, menuPaths,
+  openModel as openModelAt, messageBox as messageBoxOf, abrir as abrirIn,
+} from './browser.mjs';
 
 let site;
 let page;
@@ -18,7 +21,6 @@ after(async () => {
 });
 
 const tree = () => page.evaluate(() => window.vorel.tree);
-const golden = (id, name, kind) => readFileSync(`${root}/tests/golden/${id}/${name}.${kind}`, 'utf8');
 
 // The described models, the pictures that lead to their entry screens.
 const MODELS = [
@@ -29,32 +31,9 @@ const MODELS = [
 ];
 const EOQ = MODELS[0];
 
-// Through the menus to a model's entry screen: from the screen on view by
-// its gohome, or from a fresh page.
-async function openModel(model) {
-  const home = page.locator('#escritorio .banda button[name="gohome"]');
-  if ((await page.evaluate(() => Boolean(window.vorel))) && (await home.count())) {
-    await home.click();
-    await onView(page, 'APrincipal').waitFor();
-  } else {
-    await toMainMenu(site);
-  }
-  for (const picture of model.path) await press(page, picture);
-  await onView(page, model.screen).waitFor();
-}
-
-// The message box on view: its title and text; closed by its OK button.
-async function messageBox() {
-  const box = page.locator('dialog.caja[open]');
-  await box.waitFor();
-  return { title: await box.locator('header').textContent(), text: await box.locator('.texto').textContent() };
-}
-
-async function abrir(path) {
-  const [chooser] = await Promise.all([page.waitForEvent('filechooser'), press(page, 'abrir')]);
-  await chooser.setFiles(path);
-  await page.evaluate(() => window.vorel.reading);
-}
+const openModel = (model) => openModelAt(site, model.path, model.screen);
+const messageBox = () => messageBoxOf(page);
+const abrir = (path) => abrirIn(page, path);
 
 test('the start screen shows for two seconds, then the main menu', async () => {
   await page.goto(site.url);
@@ -68,20 +47,7 @@ test('the start screen shows for two seconds, then the main menu', async () => {
 
 test('every section menu is reached by clicks, with its text and its choices', async () => {
   const { menus } = await tree();
-  // The pictures from the main menu to each section menu.
-  const paths = { APrincipal: [] };
-  for (let grown = true; grown;) {
-    grown = false;
-    for (const [name, menu] of Object.entries(menus)) {
-      if (!paths[name]) continue;
-      for (const choice of menu.commands) {
-        if (choice.target && menus[choice.target] && !paths[choice.target]) {
-          paths[choice.target] = [...paths[name], choice.name];
-          grown = true;
-        }
-      }
-    }
-  }
+  const paths = Object.fromEntries(Object.entries(menuPaths(await tree())).filter(([name]) => menus[name]));
   assert.equal(Object.keys(paths).length, 12);
   await toMainMenu(site);
   for (const [name, path] of Object.entries(paths)) {
@@ -100,42 +66,6 @@ test('every section menu is reached by clicks, with its text and its choices', a
   assert.equal(await simplex.isDisabled(), true);
   assert.equal(await simplex.getAttribute('title'), 'Disponible próximamente');
 });
-
-for (const model of MODELS) {
-  test(`${model.id}: every example opened, solved and printed as the golden texts say`, async () => {
-    const folder = `${root}/examples/${model.id}`;
-    for (const file of readdirSync(folder)) {
-      const name = file.replace(/\.txt$/, '');
-      await openModel(model);
-      await abrir(`${folder}/${file}`);
-      await press(page, 'Resolver');
-      const report = golden(model.id, name, 'report');
-      if (report.startsWith('[salida 1]\n')) {
-        const box = await messageBox();
-        assert.deepEqual(box, { title: 'Error', text: report.split('\n')[1] }, file);
-        await page.keyboard.press('Escape');
-        continue;
-      }
-      const runtime = report.match(/^\[salida 3\]\nError (\d+): (.*)\n$/);
-      if (runtime) {
-        const [, number, text] = runtime;
-        assert.deepEqual(await messageBox(),
-          { title: 'Vorel', text: `Error en tiempo de ejecución '${number}':\n\n${text}` }, file);
-        await page.keyboard.press('Enter');
-        await onView(page, 'AInicio').waitFor();
-        continue;
-      }
-      const box = page.locator('#escritorio .informe');
-      await box.waitFor();
-      assert.equal(await box.getAttribute('data-text'), report, file);
-      assert.ok(await box.locator('.linea span').count() > 10, 'the report is painted');
-      await page.evaluate(() => { window.print = () => { window.printed = true; }; });
-      await press(page, 'Imprimir');
-      assert.equal(await page.evaluate(() => window.printed), true);
-      assert.equal(await page.locator('#impresion').getAttribute('data-text'), golden(model.id, name, 'page'), file);
-    }
-  });
-}
 
 test('the intervals selector shows the rows it chooses, keeping what they hold', async () => {
   const model = MODELS.find((m) => m.id === 'cep-descuento');

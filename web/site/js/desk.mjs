@@ -5,9 +5,14 @@
 import { el } from './dom.mjs';
 import { messageBox, showHelp } from './dialogs.mjs';
 import { paintReport, clearReport, printPage } from './report.mjs';
-import { startScreen, menuScreen, entryScreen, solutionScreen, showFields } from './screens.mjs';
+import { startScreen, menuScreen, entryScreen, solutionScreen, showFields, showCommands } from './screens.mjs';
+import { chartSvg } from './chart.mjs';
 
 const START_MS = 2000;
+// A method that may never end runs in slices: this many steps first, twice as
+// many each time up to the longest, the page handling its events between them.
+const FIRST_SLICE = 1 << 12;
+const LONGEST_SLICE = 1 << 21;
 
 export class Desk {
   constructor(core, { desk, bar, printView, filePicker, averageEm }) {
@@ -46,6 +51,7 @@ export class Desk {
       element = entryScreen(info, form.entry, form.fields, press, {
         typed: (control, text) => this.core.set(name, control, text),
         chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
+        ticked: (control, checked, edit) => this.run(() => this.tick(name, control, checked, edit)),
       });
       this.loaded.set(name, { element, solution: form.solution });
       return this.loaded.get(name);
@@ -105,20 +111,44 @@ export class Desk {
     }
   }
 
-  // Form_Activate: a solution screen computes and paints afresh.
-  activate(name) {
+  // Form_Activate: a solution screen computes and paints afresh; a method
+  // that may never end runs in slices, and while it runs only minimizar and
+  // cerrar act.
+  async activate(name) {
     const info = this.info.get(name);
     if (info.kind !== 'solution') return;
     const screen = this.loaded.get(name);
-    const box = screen.element.querySelector('.informe');
-    clearReport(box);
-    const solved = this.core.solve(info.entry);
+    clearReport(screen.element.querySelector('.informe'));
+    screen.element.querySelector('.grafico')?.remove();
+    const locked = [...screen.element.querySelectorAll('button')]
+      .filter((b) => !['minimizar', 'cerrar'].includes(b.name) && !b.disabled);
+    let solved;
+    for (let budget = FIRST_SLICE; ; budget = Math.min(budget * 2, LONGEST_SLICE)) {
+      solved = this.core.solve(info.entry, budget);
+      if (!solved.doesNotEnd) break;
+      for (const b of locked) b.disabled = true;
+      await new Promise((go) => { setTimeout(go, 0); });
+      if (this.loaded.get(name) !== screen) return;  // closed meanwhile
+    }
+    for (const b of locked) b.disabled = false;
     if (solved.error) {
       this.runtimeError(solved.error);
       return;
     }
+    this.showSolution(name, solved);
+  }
+
+  // A solution on its screen: the report, the chart, the browsing commands.
+  showSolution(name, solved) {
+    const screen = this.loaded.get(name);
     screen.pages = solved;
-    paintReport(box, solved, this.averageEm);
+    paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
+    showCommands(screen.element, solved.commands);
+    screen.element.querySelector('.grafico')?.remove();
+    if (solved.chart) {
+      screen.element.querySelector('.informe').after(
+        el('figure', { className: 'grafico' }, chartSvg(solved.chart)));
+    }
   }
 
   render() {
@@ -174,6 +204,8 @@ export class Desk {
       case 'guardar': return this.guardar(name);
       case 'resolver': return this.resolver(name, info);
       case 'imprimir': return this.imprimir(name);
+      case 'edit': return this.editCommand(name, command.target);
+      case 'browse': return this.browse(name, info, command.name);
       default: return undefined;
     }
   }
@@ -181,11 +213,35 @@ export class Desk {
   // A selector's click: the choice, then the edit it runs on the fields.
   async choose(name, control, index, edit) {
     this.core.setIndex(name, control, index);
-    if (!edit) return;
+    if (edit) await this.runEdit(name, edit);
+  }
+
+  // An option's or a check box's click: the tick, then its edit.
+  async tick(name, control, checked, edit) {
+    this.core.setChecked(name, control, checked);
+    if (edit) await this.runEdit(name, edit);
+  }
+
+  async runEdit(name, edit) {
     const answer = this.core.edit(name, edit);
     if (answer.error) throw { runtime: answer.error };
     await this.tell(name, answer.messages);
     this.showFields(name, answer.fields);
+    return answer.messages.length === 0;
+  }
+
+  // Rediseñar: the edit, then the focus in the table's first shown cell.
+  async editCommand(name, edit) {
+    if (!(await this.runEdit(name, edit))) return;
+    const cells = this.loaded.get(name).element.querySelectorAll('.tabla input.cell');
+    [...cells].find((cell) => !cell.hidden)?.focus();
+  }
+
+  // A browsing command: the solution's next page.
+  browse(name, info, command) {
+    const solved = this.core.press(info.entry, command);
+    if (solved.error?.number) throw { runtime: solved.error };
+    if (!solved.error) this.showSolution(name, solved);
   }
 
   // Each message in turn, focus on its control.

@@ -1,0 +1,89 @@
+// Every model whose screens the browser draws, through its menus as a student
+// reaches it: each example file opened, solved, its report and its printed
+// page equal to the golden texts, and saved back to the same bytes.
+import { test, before, after } from 'node:test';
+import assert from 'node:assert/strict';
+import { readFileSync, readdirSync } from 'node:fs';
+import {
+  openSite, press, onView, root, menuPaths, openModel, messageBox, abrir,
+} from './browser.mjs';
+
+let site;
+let page;
+let models;
+before(async () => {
+  site = await openSite();
+  ({ page } = site);
+  await page.goto(site.url);
+  await page.waitForFunction(() => Boolean(window.vorel?.tree));
+  const tree = await page.evaluate(() => window.vorel.tree);
+  const paths = menuPaths(tree);
+  models = tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model)
+    .map((s) => ({ id: s.model, screen: s.name, path: paths[s.name], presses: s.presses, solution: s.solutions[0] }));
+});
+after(async () => {
+  assert.deepEqual(site.errors, []);
+  await site.close();
+});
+
+const golden = (id, name, kind) => readFileSync(`${root}/tests/golden/${id}/${name}.${kind}`, 'utf8');
+
+test('every described model is reached through the menus', () => {
+  assert.ok(models.length >= 4);
+  for (const model of models) assert.ok(model.path, `${model.screen} has a way in`);
+});
+
+// The examples of one model: the checks' first message, a run-time error's
+// box, or the solution's report, page and the saved file.
+async function runExamples(model) {
+  const folder = `${root}/examples/${model.id}`;
+  for (const file of readdirSync(folder).filter((f) => f.endsWith('.txt'))) {
+    const name = file.replace(/\.txt$/, '');
+    await openModel(site, model.path, model.screen);
+    await abrir(page, `${folder}/${file}`);
+    const [download] = await Promise.all([page.waitForEvent('download'), press(page, 'guardar')]);
+    assert.deepEqual(readFileSync(await download.path()), readFileSync(`${folder}/${file}`), `${file} saved`);
+    for (const name of model.presses.split(', ').filter(Boolean)) await press(page, name);
+    await press(page, 'Resolver');
+    const report = golden(model.id, name, 'report');
+    if (report.startsWith('[salida 1]\n')) {
+      assert.deepEqual(await messageBox(page), { title: 'Error', text: report.split('\n')[1] }, file);
+      await page.keyboard.press('Escape');
+      await page.locator('dialog.caja').waitFor({ state: 'detached' });
+      continue;
+    }
+    const runtime = report.match(/^\[salida 3\]\nError (\d+): (.*)\n$/);
+    if (runtime) {
+      const [, number, text] = runtime;
+      assert.deepEqual(await messageBox(page),
+        { title: 'Vorel', text: `Error en tiempo de ejecución '${number}':\n\n${text}` }, file);
+      await page.keyboard.press('Enter');
+      await onView(page, 'AInicio').waitFor();
+      continue;
+    }
+    if (report.startsWith('[salida 4]\n')) {
+      // A method that never ends: it runs in slices, the page answers, and
+      // cerrar on its screen stops it.
+      const solution = onView(page, model.solution);
+      await solution.waitFor();
+      await page.waitForTimeout(300);
+      assert.equal(await solution.locator('.informe[data-text]').count(), 0, file);
+      assert.equal(await solution.locator('button[name="Imprimir"]').isDisabled(), true, file);
+      await press(page, 'cerrar');
+      await solution.waitFor({ state: 'detached' });
+      continue;
+    }
+    const box = onView(page, model.solution).locator('.informe[data-text]');
+    await box.waitFor();
+    assert.equal(await box.getAttribute('data-text'), report, file);
+    assert.ok(await box.locator('.linea span').count() > 3, 'the report is painted');
+    await page.evaluate(() => { window.print = () => { window.printed = true; }; });
+    await press(page, 'Imprimir');
+    assert.equal(await page.evaluate(() => window.printed), true);
+    assert.equal(await page.locator('#impresion').getAttribute('data-text'), golden(model.id, name, 'page'), file);
+  }
+}
+
+test('every example of every described model opens, saves, solves and prints as its goldens', async (t) => {
+  for (const model of models) await t.test(model.id, () => runExamples(model));
+});
