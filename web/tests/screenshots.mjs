@@ -1,18 +1,23 @@
 // Pictures of every browser screen built so far, at a desktop's width and a
-// phone's: node web/tests/screenshots.mjs FOLDER. The printed page of the
-// economic order quantity also goes to FOLDER/cep-imprimir.pdf.
-import { mkdirSync } from 'node:fs';
-import { openSite, toMainMenu, press, onView, root } from './browser.mjs';
+// phone's: node web/tests/screenshots.mjs FOLDER. Each model's entry screen
+// shows an example (its "libro" where it has one), then its solution. The
+// printed page of one model of each subsystem goes to FOLDER/<id>-imprimir.pdf.
+// VOREL_MODELS=id,id... shoots only those models (and no menus).
+import { mkdirSync, readdirSync } from 'node:fs';
+import { openSite, press, onView, root, menuPaths, openModel } from './browser.mjs';
 
 const folder = process.argv[2] ?? `${root}/screenshots/web`;
 mkdirSync(folder, { recursive: true });
 
-const MODELS = [
-  { id: 'cep', screen: 'GI_CantidadEconómicaPedido', path: ['Image6', 'Image3', 'Image3'], example: 'libro' },
-  { id: 'cep-gradual', screen: 'GI_CEPGradual', path: ['Image6', 'Image3', 'Image9'], example: 'fase-creciente' },
-  { id: 'cep-ruptura', screen: 'GI_CEPRuptura', path: ['Image6', 'Image3', 'Image8'], example: 'libro' },
-  { id: 'cep-descuento', screen: 'GI_CEPDescuento', path: ['Image6', 'Image3', 'Image7'], example: 'libro' },
-];
+const only = process.env.VOREL_MODELS?.split(',');
+// The first model of each subsystem (by the folder of its entry screen's
+// section) prints its page to PDF.
+const printed = new Set();
+
+function exampleOf(id) {
+  const files = readdirSync(`${root}/examples/${id}`).filter((f) => f.endsWith('.txt')).sort();
+  return (files.find((f) => f === 'libro.txt') ?? files[0]).replace(/\.txt$/, '');
+}
 
 for (const width of [1280, 390]) {
   const site = await openSite({ width, height: width > 600 ? 900 : 844 });
@@ -20,38 +25,47 @@ for (const width of [1280, 390]) {
   const shoot = (name) => page.screenshot({ path: `${folder}/${name}-${width}.png`, fullPage: true });
   await page.goto(site.url);
   await onView(page, 'AInicio').waitFor();
-  await shoot('AInicio');
+  if (!only) await shoot('AInicio');
   await onView(page, 'APrincipal').waitFor({ timeout: 10000 });
-  await shoot('APrincipal');
-  const { menus } = await page.evaluate(() => window.vorel.tree);
-  for (const [name, menu] of Object.entries(menus)) {
-    if (name === 'APrincipal') continue;
-    await page.evaluate((n) => { window.vorel.show(n); }, name);
-    await onView(page, name).waitFor();
-    await shoot(name);
-    void menu;
+  const tree = await page.evaluate(() => window.vorel.tree);
+  if (!only) {
+    await shoot('APrincipal');
+    for (const name of Object.keys(tree.menus)) {
+      if (name === 'APrincipal') continue;
+      await page.evaluate((n) => { window.vorel.show(n); }, name);
+      await onView(page, name).waitFor();
+      await shoot(name);
+    }
   }
-  for (const model of MODELS) {
-    await toMainMenu(site);
-    for (const picture of model.path) await press(page, picture);
-    await onView(page, model.screen).waitFor();
+  const paths = menuPaths(tree);
+  const models = tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model
+    && (!only || only.includes(s.model)));
+  for (const model of models) {
+    await openModel(site, paths[model.name], model.name);
     const [chooser] = await Promise.all([page.waitForEvent('filechooser'), press(page, 'abrir')]);
-    await chooser.setFiles(`${root}/examples/${model.id}/${model.example}.txt`);
+    await chooser.setFiles(`${root}/examples/${model.model}/${exampleOf(model.model)}.txt`);
     await page.evaluate(() => window.vorel.reading);
-    await shoot(model.screen);
+    await shoot(model.name);
+    for (const name of model.presses.split(', ').filter(Boolean)) await press(page, name);
     await press(page, 'Resolver');
-    await page.locator('#escritorio .informe .linea').first().waitFor();
-    await shoot(`${model.screen}_Solucion`);
-    if (model.id === 'cep' && width > 600) {
+    await onView(page, model.solutions[0]).locator('.informe .linea').first().waitFor();
+    await shoot(`${model.name}_Solucion`);
+    const subsystem = paths[model.name][1];
+    if (width > 600 && !printed.has(subsystem)) {
+      printed.add(subsystem);
       await page.evaluate(() => { window.print = () => {}; });
       await press(page, 'Imprimir');
       await page.emulateMedia({ media: 'print' });
-      await page.pdf({ path: `${folder}/cep-imprimir.pdf`, format: 'A4' });
+      await page.pdf({ path: `${folder}/${model.model}-imprimir.pdf`, format: 'A4' });
       await page.emulateMedia({ media: 'screen' });
     }
   }
+  if (only) {
+    await site.close();
+    continue;
+  }
   // The system's boxes: a check message and the help view.
-  await press(page, 'volver');
+  await openModel(site, paths['GI_CantidadEconómicaPedido'], 'GI_CantidadEconómicaPedido');
   await page.fill('input[name="D"]', 'mil');
   await press(page, 'Resolver');
   await page.locator('dialog.caja[open]').waitFor();
