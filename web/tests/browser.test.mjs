@@ -79,6 +79,9 @@ test('the intervals selector shows the rows it chooses, keeping what they hold',
   await page.selectOption('select[name="cmbIntervalos"]', '4');
   assert.equal(await row('D').inputValue(), '5000');
   assert.equal(await page.locator('#escritorio [name="Intervalo4"]').isVisible(), true);
+  // A screen reader reads each cell by its row and its column.
+  assert.equal(await page.getByRole('textbox', { name: 'Intervalo 4, Coste' }).getAttribute('name'), 'D3');
+  assert.equal(await row('A').getAttribute('aria-label'), 'Intervalo 1, Límite  Inferior');
 });
 
 test('guardar gives the bytes of the file the desktop writes', async () => {

@@ -59,14 +59,14 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   // (whose row -1 is the text above it).
   const place = (c) => (c.row >= 0 && c !== d.titleLabel && c !== d.titleField
     ? `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}` : undefined);
+  const at = (c) => (c.group === 1 ? { 'data-row': c.row, 'data-column': c.column } : {});
   const draw = (c) => {
     switch (c.kind) {
       case 'textbox':
       case 'cell':
         return el('input', {
           type: 'text', id: id(c.name), name: c.name, className: c.kind, title: c.toolTip || undefined,
-          autocomplete: 'off', spellcheck: false, style: place(c), hidden: !c.visible,
-          'aria-label': c.kind === 'cell' ? c.toolTip || c.name : undefined,
+          autocomplete: 'off', spellcheck: false, style: place(c), hidden: !c.visible, ...at(c),
           oninput: (e) => typed(c.name, e.target.value),
         });
       case 'selector':
@@ -87,7 +87,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
         }
         return el(c.row < 0 ? 'p' : 'span', {
           className: c.row < 0 ? 'intro' : c.group === 0 ? 'texto' : c.row === 0 ? 'cabecera' : 'rotulo',
-          name: c.name || undefined, textContent: c.text, style: place(c), hidden: !c.visible,
+          name: c.name || undefined, textContent: c.text, style: place(c), hidden: !c.visible, ...at(c),
         });
     }
   };
@@ -158,5 +158,23 @@ export function showFields(screenElement, fields) {
     // An option or check box shows and hides with its caption.
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
+  }
+  nameCells(screenElement);
+}
+
+// A table's cell is read by its headings: the row's, then the column's, as
+// they stand (both may change with the fields); its tool-tip, where it has
+// one, describes it.
+function nameCells(screenElement) {
+  for (const table of screenElement.querySelectorAll('.tabla')) {
+    const heading = (row, column) => {
+      const head = table.querySelector(`:scope > span[data-row="${row}"][data-column="${column}"]`);
+      return head && !head.hidden ? head.textContent.trim() : '';
+    };
+    for (const cell of table.querySelectorAll('input.cell')) {
+      const { row, column } = cell.dataset;
+      const name = [heading(row, 0), heading(0, column)].filter(Boolean).join(', ');
+      cell.setAttribute('aria-label', name || cell.title || cell.name);
+    }
   }
 }
