@@ -28,9 +28,14 @@ void save(gui::Screen* s, const QString& dir, const std::string& name) {
 TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
   const QString dir = qEnvironmentVariable("VOREL_SCREENSHOTS", "screenshots");
   QDir().mkpath(dir);
+  // VOREL_MODELS=id,id... pictures only those models' screens.
+  const QStringList only = qEnvironmentVariable("VOREL_MODELS").split(',', Qt::SkipEmptyParts);
   for (const nav::ScreenInfo& info : nav::screens()) {
     if (!screens().available(info.name) || info.kind == nav::Kind::Solution ||
         info.kind == nav::Kind::ChartPrint)
+      continue;
+    if (const CatalogueEntry* m = findModel(info.name);
+        !only.isEmpty() && (!m || !only.contains(QString::fromStdString(m->id))))
       continue;
     screens().reset();
     gui::Screen* s = screens().show(info.name);

@@ -67,7 +67,7 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
         if (l.kind == ui::ControlKind::Label && l.buddy == c.name) caption = &l;
       addField(QString::fromStdString(c.name),
                caption ? QString::fromStdString(caption->text) : QString(),
-               QString::fromStdString(c.toolTip));
+               QString::fromStdString(c.toolTip), c.row);
     }
   body()->addStretch();
 
@@ -95,8 +95,8 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
 }
 
 QLineEdit* EntryScreen::addField(const QString& objectName, const QString& label,
-                                 const QString& toolTip) {
-  const int row = fields_->rowCount();
+                                 const QString& toolTip, int row) {
+  if (row < 0) row = fields_->count() ? fields_->rowCount() : 0;
   auto* caption = styled(new QLabel(label, this), "font-size: 10pt; color: #1A202C;");
   auto* box = new QLineEdit(this);
   box->setObjectName(objectName);
