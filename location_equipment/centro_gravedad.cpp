@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "location_equipment/location_forms.h"
 #include "frame/checks.h"
 #include "location_equipment/ponderacion.h"
 
@@ -109,8 +110,7 @@ void exchange(ProblemFile& file, CentroGravedadFields& f) {
 }
 
 CatalogueEntry catalogueCentroGravedad() {
-  return catalogued<CentroGravedadFields>("centro-gravedad", "Localizacion_CG", "", exchange, check,
-                                          solveAndReport);
+  return catalogued("centro-gravedad", centroGravedadForm());
 }
 
 }  // namespace vorel::location_equipment

@@ -4,6 +4,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "location_equipment/location_forms.h"
 
 namespace vorel::location_equipment {
 
@@ -246,8 +247,7 @@ void exchange(ProblemFile& file, CostesTotalesFields& f) {
 }
 
 CatalogueEntry catalogueCostesTotales() {
-  return catalogued<CostesTotalesFields>("costes-totales", "Select_C_Totales", "", exchange, check,
-                                         solveAndReport);
+  return catalogued("costes-totales", costesTotalesForm());
 }
 
 }  // namespace vorel::location_equipment

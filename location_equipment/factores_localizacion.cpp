@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "location_equipment/location_forms.h"
 #include "frame/checks.h"
 #include "location_equipment/ponderacion.h"
 
@@ -164,8 +165,7 @@ void exchange(ProblemFile& file, FactoresLocalizacionFields& f) {
 }
 
 CatalogueEntry catalogueFactoresLocalizacion() {
-  return catalogued<FactoresLocalizacionFields>("localizacion-factores", "Localizacion_PF", "",
-                                                exchange, check, solveAndReport);
+  return catalogued("localizacion-factores", factoresLocalizacionForm());
 }
 
 }  // namespace vorel::location_equipment

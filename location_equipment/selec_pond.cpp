@@ -4,6 +4,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "location_equipment/location_forms.h"
 #include "frame/checks.h"
 #include "location_equipment/ponderacion.h"
 
@@ -113,8 +114,7 @@ void exchange(ProblemFile& file, SelecPondFields& f) {
 }
 
 CatalogueEntry catalogueSelecPond() {
-  return catalogued<SelecPondFields>("equipos-factores", "Selec_Pond", "", exchange, check,
-                                     solveAndReport);
+  return catalogued("equipos-factores", selecPondForm());
 }
 
 }  // namespace vorel::location_equipment

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "location_equipment/location_forms.h"
 #include "frame/checks.h"
 
 namespace vorel::location_equipment {
@@ -33,16 +34,22 @@ float vanc(float value, double n, double k) {
   return Sng(divide(checked(checked(growth - 1) * value), checked(k * growth)));
 }
 
+void headRows(VanFields& f) {
+  for (std::size_t i = 0; i < kMaxAñosVan; ++i) f.LblAño[i] = f.AX1[i].visible || f.AX2[i].visible;
+}
+
 }  // namespace
 
 VanFields::VanFields() {
   showYears(AX1, 2);
   showYears(AX2, 2);
+  headRows(*this);
 }
 
 Messages rediseñar(VanFields& f) {
   showYears(f.AX1, Val(f.NVarA));
   showYears(f.AX2, Val(f.NVarB));
+  headRows(f);
   return {};
 }
 
@@ -142,11 +149,12 @@ void exchange(ProblemFile& file, VanFields& f) {
     file.flag(f.AX1[i].visible);
     file.text(f.AX2[i].text);
     file.flag(f.AX2[i].visible);
+    f.LblAño[static_cast<std::size_t>(i)] = f.AX1[i].visible || f.AX2[i].visible;
   }
 }
 
 CatalogueEntry catalogueVan() {
-  return catalogued<VanFields>("van", "Selec_Van", "", exchange, check, solveAndReport);
+  return catalogued("van", vanForm());
 }
 
 }  // namespace vorel::location_equipment

@@ -20,6 +20,8 @@ struct VanFields {
   std::string NVarA = "2", NVarB = "2";
   std::string txtDescuento, InicialA, InicialB;
   std::array<Cell, kMaxAñosVan> AX1, AX2;
+  // The row heads LblAño(i): shown where a cell of their row is.
+  std::array<bool, kMaxAñosVan> LblAño{};
   VanFields();  // the shape of the first load: two years each
 };
 

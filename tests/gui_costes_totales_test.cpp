@@ -21,9 +21,15 @@ struct RecordingCarrier : gui::ChartPrintScreen {
 
 TEST_F(CostesTotalesScreens, TheOptionsChooseTheThirdFrameAndTheSolution) {
   openFile("Select_C_Totales", examplePath("costes-totales", "dos-opciones.txt"));
-  EXPECT_FALSE(shown("Select_C_Totales", "FrmOpcion3"));
+  // The third option's fields, the frame FrmOpcion3, show with Tres opciones.
+  for (const char* name : {"txtCF3", "txtCV3", "LblCF3", "LblCV3"})
+    EXPECT_FALSE(shown("Select_C_Totales", name)) << name;
   press("Select_C_Totales", "Option2");
-  EXPECT_TRUE(shown("Select_C_Totales", "FrmOpcion3"));
+  for (const char* name : {"txtCF3", "txtCV3", "LblCF3", "LblCV3"})
+    EXPECT_TRUE(shown("Select_C_Totales", name)) << name;
+  press("Select_C_Totales", "Option1");
+  EXPECT_FALSE(shown("Select_C_Totales", "txtCF3"));
+  press("Select_C_Totales", "Option2");
   for (auto [field, value] : {std::pair{"txtCF3", "500"}, {"txtCV3", "1"}})
     type("Select_C_Totales", field, value);
   press("Select_C_Totales", "Resolver");
@@ -37,9 +43,9 @@ TEST_F(CostesTotalesScreens, EachPrintIsAPageWithTheChartOnScreen) {
                 [] { return new RecordingCarrier("Select_C_Totales_Sol1_Imprimir"); });
   openFile("Select_C_Totales", examplePath("costes-totales", "tres-opciones.txt"));
   press("Select_C_Totales", "Resolver");
-  auto* solution = dynamic_cast<gui::ChartSolutionScreen*>(screen("Select_C_Totales_Sol1"));
-  ASSERT_NE(solution, nullptr);
-  const auto onScreen = gui::seriesPoints(*solution->MSChart1()->chart());
+  auto* chart = control<gui::ChartView>("Select_C_Totales_Sol1", "MSChart1");
+  ASSERT_NE(chart, nullptr);
+  const auto onScreen = gui::seriesPoints(*chart->chart());
   ASSERT_EQ(onScreen.size(), 3u);
   for (const char* name : {"primera.pdf", "segunda.pdf"}) {
     const QString pdf = QString::fromStdString(tempPath(name));

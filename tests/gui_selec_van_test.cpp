@@ -2,6 +2,8 @@
 // and other screens read the title typed on Selec_Van.
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+
 #include "location_equipment/selec_van_screens.h"
 #include "tests/gui_support.h"
 

@@ -201,6 +201,7 @@ void DescribedSolutionBase::showSolution() {
   Solucion1()->Cls();
   Solucion1()->setReport(solution_->pages().screen);
   setPage(solution_->pages().page);
+  draw(solution_->pages());
   offerCommands();
 }
 

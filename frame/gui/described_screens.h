@@ -35,6 +35,10 @@ class DescribedEntry : public ModelEntry<Fields> {
   explicit DescribedEntry(const Form<Fields>& form)
       : ModelEntry<Fields>(form.entry), form_(form) {
     drawn_ = drawDescribed(*this, this->body(), form.entry, [this](const std::string& name) { runEdit(name); });
+    // A selector bound to its text takes what is typed in it too.
+    for (const Binding<Fields>& b : form_.bindings)
+      if (auto* list = qobject_cast<QComboBox*>(control(b.control)); list && b.text)
+        list->setEditable(true);
     setFields(Fields{});
   }
 
@@ -48,6 +52,8 @@ class DescribedEntry : public ModelEntry<Fields> {
         *b.text(f) = box->text().toStdString();
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         *b.index(f) = list->currentIndex();
+      if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
+        *b.text(f) = list->currentText().toStdString();
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         *b.checked(f) = tick->isChecked();
       if (w && b.visible) *b.visible(f) = !w->isHidden();
@@ -64,6 +70,8 @@ class DescribedEntry : public ModelEntry<Fields> {
         label->setText(QString::fromStdString(*b.text(f)));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         list->setCurrentIndex(*b.index(f));
+      if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
+        list->setCurrentText(QString::fromStdString(*b.text(f)));
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "frame/gui/menus.h"
+#include "frame/gui/table_screen.h"
 #include "frame/gui/picture_button.h"
 
 namespace vorel::gui {
@@ -65,9 +66,16 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
       const ui::Control* caption = nullptr;
       for (const ui::Control& l : d.controls)
         if (l.kind == ui::ControlKind::Label && l.buddy == c.name) caption = &l;
-      addField(QString::fromStdString(c.name),
-               caption ? QString::fromStdString(caption->text) : QString(),
-               QString::fromStdString(c.toolTip), c.row);
+      // At its row of the grid, which other controls of the description may
+      // share; its caption takes the caption control's name, so both show
+      // and hide together.
+      QLineEdit* box = addField(QString::fromStdString(c.name),
+                                caption ? QString::fromStdString(caption->text) : QString(),
+                                QString::fromStdString(c.toolTip), c.row);
+      QWidget* label = fields_->itemAtPosition(gridRow(fields_, box), 0)->widget();
+      if (caption) label->setObjectName(QString::fromStdString(caption->name));
+      label->setVisible(c.visible);
+      box->setVisible(c.visible);
     }
   body()->addStretch();
 

@@ -211,8 +211,12 @@ export class Desk {
   }
 
   // A selector's click: the choice, then the edit it runs on the fields.
+  // A selector that holds its text rather than its index takes the item's text.
   async choose(name, control, index, edit) {
-    this.core.setIndex(name, control, index);
+    if (!this.core.setIndex(name, control, index)) {
+      const list = this.loaded.get(name).element.querySelector(`select[name="${CSS.escape(control)}"]`);
+      this.core.set(name, control, list.options[index]?.textContent ?? '');
+    }
     if (edit) await this.runEdit(name, edit);
   }
 

@@ -2,6 +2,7 @@
 // (Arial, whose metrics Liberation Sans and Arimo share); here they are placed
 // in pixels, on the screen at 8.25 pt and on paper at 12 pt.
 import { el } from './dom.mjs';
+import { chartSvg } from './chart.mjs';
 
 export const FONT = 'Arial, "Liberation Sans", Arimo, sans-serif';
 const SCREEN_PX = 11;
@@ -45,13 +46,30 @@ export function clearReport(box) {
   delete box.dataset.text;
 }
 
+// The printable area of an A4 page less 10 mm margins, in CSS pixels.
+export const PRINTABLE = { width: 718, height: 1047 };
+// A chart's picture on paper keeps its size on screen.
+const CHART = { width: 480, height: 330 };
+
 // Imprimir: the printed page in the print view, then the browser's print
 // dialog (a printer, or a PDF). The type is made just small enough for the
-// widest line to fit the paper, as on the desktop.
+// widest line to fit the paper, as on the desktop. A solution with a chart
+// prints it over the page at its fractions of the page's width and height,
+// narrowed where it would pass the right edge, on a page of its own.
 export function printPage(view, solved) {
-  const printableWidth = 718;  // A4 less 10 mm margins, in CSS pixels
-  const px = Math.min(PAGE_PX, printableWidth / Math.max(widestLine(solved.page), 1));
+  const px = Math.min(PAGE_PX, PRINTABLE.width / Math.max(widestLine(solved.page), 1));
   paint(view, solved.page, px);
+  view.style.height = '';
+  if (solved.chart) {
+    const left = PRINTABLE.width * solved.chart.pageLeft;
+    const top = PRINTABLE.height * solved.chart.pageTop;
+    const width = Math.max(0, Math.min(CHART.width, PRINTABLE.width - left));
+    view.append(el('div', {
+      className: 'grafico-impreso',
+      style: `left: ${left.toFixed(2)}px; top: ${top.toFixed(2)}px; width: ${width.toFixed(2)}px`,
+    }, chartSvg(solved.chart)));
+    view.style.height = `${PRINTABLE.height}px`;
+  }
   view.dataset.text = solved.pageText;
   window.print();
 }
