@@ -84,6 +84,19 @@ struct Form {
   // Where the solution screen browses or changes its entry; otherwise its
   // pages are model.solveAndReport's on a copy of the fields.
   Solver<Fields> solver = {};
+  // Where Resolver shows one of several solution screens as the fields say:
+  // the others (which solve the same fields), and the name of the one to show.
+  std::vector<ui::Description> otherSolutions = {};
+  std::string (*resolverShows)(const Fields&) = nullptr;
+
+  const ui::Description& solutionNamed(std::string_view name) const {
+    for (const ui::Description& d : otherSolutions)
+      if (d.name == name) return d;
+    return solution;
+  }
+  std::string solutionShown(const Fields& f) const {
+    return resolverShows ? resolverShows(f) : solution.name;
+  }
 
   std::unique_ptr<Solution> solve(Fields& entry, long stepBudget) const {
     if (solver) return solver(entry, stepBudget);
@@ -112,7 +125,12 @@ class EntryForm {
  public:
   virtual ~EntryForm() = default;
   virtual const ui::Description& entry() const = 0;
+  // Resolver's usual solution screen; `solutions` adds the others a model
+  // may show instead.
   virtual const ui::Description& solution() const = 0;
+  virtual std::vector<const ui::Description*> solutions() const = 0;
+  // The solution screen Resolver shows for the fields as they stand.
+  virtual std::string solutionShown() const = 0;
 
   // What every bound control shows, in the order of the bindings.
   virtual void each(const std::function<void(const ControlState&)>& visit) = 0;
@@ -146,6 +164,12 @@ class FieldsForm : public EntryForm {
 
   const ui::Description& entry() const override { return form_.entry; }
   const ui::Description& solution() const override { return form_.solution; }
+  std::vector<const ui::Description*> solutions() const override {
+    std::vector<const ui::Description*> all = {&form_.solution};
+    for (const ui::Description& d : form_.otherSolutions) all.push_back(&d);
+    return all;
+  }
+  std::string solutionShown() const override { return form_.solutionShown(fields_); }
 
   void each(const std::function<void(const ControlState&)>& visit) override {
     for (const Binding<Fields>& b : form_.bindings)

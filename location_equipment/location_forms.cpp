@@ -318,15 +318,13 @@ const Form<CostesTotalesFields>& costesTotalesForm() {
     form.bindings.push_back({"Option1", {}, {}, {}, [](F& f) { return &f.Option1; }});
     form.bindings.push_back({"Option2", {}, {}, {}, [](F& f) { return &f.Option2; }});
     form.solution = costesSolution("Select_C_Totales_Sol");
+    form.otherSolutions = {costesSolution("Select_C_Totales_Sol1")};
+    form.resolverShows = solutionScreen;
     form.model = {nuevo, exchange, check, solveAndReport};
     return form;
   }();
   return form;
 }
 
-const ui::Description& costesTresSolution() {
-  static const ui::Description d = costesSolution("Select_C_Totales_Sol1");
-  return d;
-}
 
 }  // namespace vorel::location_equipment

@@ -16,9 +16,8 @@ const Form<CentroGravedadFields>& centroGravedadForm();
 const Form<FactoresLocalizacionFields>& factoresLocalizacionForm();
 const Form<SelecPondFields>& selecPondForm();
 const Form<VanFields>& vanForm();
-// Its solution is the screen of two options; costesTresSolution() is the
-// screen of three, which solves the same fields.
+// Resolver shows the solution screen of two options or, with Tres opciones,
+// the other one.
 const Form<CostesTotalesFields>& costesTotalesForm();
-const ui::Description& costesTresSolution();
 
 }  // namespace vorel::location_equipment

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "frame/catalogue.h"
 #include "frame/form.h"
 #include "tests/test_support.h"
 #include "web/api.h"
@@ -75,7 +76,7 @@ TEST_F(WebApi, AnOpenedExampleSolvesToItsGoldenTextAndSavesToTheSameBytes) {
     vorel_open(kEoq, file.data(), static_cast<int>(file.size()));
     const char* saved = vorel_save(kEoq);
     EXPECT_EQ(std::string(saved, vorel_size()), file);
-    EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[]})");
+    EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[],"solution":"GI_CantidadEconómicaPedido_Solución"})");
     const std::string solved = vorel_solve(kEoq, 0);
     EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".report"))));
     EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".page"))));
@@ -88,7 +89,8 @@ TEST_F(WebApi, ChecksTellTheFirstFailureAndNuevoKeepsTheTitle) {
   type("E", "0");
   EXPECT_EQ(std::string(vorel_check(kEoq)),
             R"({"messages":[{"text":"Valor del coste de emisión (E) no válido. Introduce un )"
-            R"(nuevo valor entre 0 y 999.999.999","focus":""}]})");
+            R"(nuevo valor entre 0 y 999.999.999","focus":""}],)"
+            R"("solution":"GI_CantidadEconómicaPedido_Solución"})");
   EXPECT_THAT(std::string(vorel_nuevo(kEoq)),
               HasSubstr(R"({"Titulo1":{"text":"Mi problema"},"D":{"text":""},"E":{"text":""})"));
 }
@@ -119,7 +121,7 @@ TEST_F(WebApi, ARunTimeErrorComesBackAsTheBoxThePlatformShows) {
                                {"dias", "1"},
                                {"P", "1"}})
     type(control, text);
-  EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[]})");
+  EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[],"solution":"GI_CantidadEconómicaPedido_Solución"})");
   EXPECT_EQ(std::string(vorel_solve(kEoq, 0)),
             R"({"error":{"number":6,"title":"Vorel","text":"Error en tiempo de ejecución )"
             R"('6':\n\nDesbordamiento"}})");
@@ -142,6 +144,23 @@ TEST(WebApiTable, TheSelectorsClickShowsTheChosenRows) {
   EXPECT_THAT(edited, HasSubstr(R"("Intervalo4":{"visible":false},"D1":{"text":"","visible":false})"));
   EXPECT_THAT(std::string(vorel_edit(screen, "Rediseñar")), HasSubstr(R"("error")"));
   vorel_unload(screen);
+}
+
+// Total costs: the options tick one another off, and Resolver shows the
+// screen of two options or of three as they say.
+TEST(WebApiOptions, TheTickedOptionChoosesTheSolutionScreen) {
+  const std::string screen = findModel("costes-totales")->screen;
+  const std::string loaded = vorel_load(screen.c_str());
+  EXPECT_THAT(loaded, HasSubstr(R"("solutions":{"Select_C_Totales_Sol":{)"));
+  EXPECT_THAT(loaded, HasSubstr(R"("Select_C_Totales_Sol1":{)"));
+  const std::string file = example("costes-totales/dos-opciones.txt");
+  vorel_open(screen.c_str(), file.data(), static_cast<int>(file.size()));
+  EXPECT_THAT(std::string(vorel_check(screen.c_str())), HasSubstr(R"("solution":"Select_C_Totales_Sol")"));
+  ASSERT_TRUE(vorel_set_checked(screen.c_str(), "Option2", 1));
+  const std::string ticked = vorel_edit(screen.c_str(), "Option2");
+  EXPECT_THAT(ticked, HasSubstr(R"("Option1":{"checked":false},"Option2":{"checked":true})"));
+  EXPECT_THAT(std::string(vorel_check(screen.c_str())), HasSubstr(R"("solution":"Select_C_Totales_Sol1")"));
+  vorel_unload(screen.c_str());
 }
 
 TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {

@@ -268,8 +268,9 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
   if (!pages.chart.empty()) j.key("chart").raw(chartJson(pages.chart));
   j.key("commands").open('{');
-  for (const ui::Command& c : f.solution().commands)
-    if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
+  for (const ui::Description* d : f.solutions())
+    for (const ui::Command& c : d->commands)
+      if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
   j.close('}');
   return give(j.close('}'));
 }
@@ -327,8 +328,12 @@ const char* vorel_load(const char* screen) {
   Json j;
   j.open('{').key("entry");
   write(j, f.entry());
-  j.key("solution");
-  write(j, f.solution());
+  j.key("solutions").open('{');
+  for (const ui::Description* d : f.solutions()) {
+    j.key(d->name);
+    write(j, *d);
+  }
+  j.close('}');
   j.key("fields");
   writeFields(j, f);
   return give(j.close('}'));
@@ -384,6 +389,7 @@ const char* vorel_check(const char* screen) {
     Json j;
     j.open('{');
     writeMessages(j, f->check());
+    j.field("solution", f->solutionShown());
     return give(j.close('}'));
   } catch (const std::exception& e) {
     return runtimeError(e);

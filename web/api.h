@@ -9,7 +9,8 @@ extern "C" {
 // screen and the menus, described.
 const char* vorel_tree();
 // Loads an entry screen afresh, as its first show does: its description, its
-// solution screen's, and its fields. {"error"} where it is not described.
+// solution screens' by name ({"entry", "solutions": {name: description},
+// "fields"}), and its fields. {"error"} where it is not described.
 const char* vorel_load(const char* screen);
 void vorel_unload(const char* screen);
 // A text box's text; false where the screen has no such box.
@@ -25,7 +26,8 @@ int vorel_set_checked(const char* screen, const char* control, int checked);
 // "fields"}.
 const char* vorel_edit(const char* screen, const char* name);
 const char* vorel_nuevo(const char* screen);
-// Resolver's checks: {"messages": [{"text", "focus"}]}.
+// Resolver's checks, and the solution screen the fields call for:
+// {"messages": [{"text", "focus"}], "solution"}.
 const char* vorel_check(const char* screen);
 // The solution screen's activation: the report and the printed page, laid out
 // in zones, and whether each browsing command shows ({"screen": [[{"x",

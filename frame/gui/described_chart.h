@@ -29,13 +29,10 @@ class DescribedChartSolutionBase : public DescribedSolutionBase {
   std::string printScreen_;  // the chart print screen ("<screen>_Imprimir"), if any
 };
 
-// `description` is the form's solution, or another screen of the same model
-// that solves the same fields (a model with a solution screen per case).
+// `description` is the form's solution or one of its others.
 template <class Fields>
 class DescribedChartSolution : public DescribedChartSolutionBase {
  public:
-  explicit DescribedChartSolution(const Form<Fields>& form)
-      : DescribedChartSolution(form, form.solution) {}
   DescribedChartSolution(const Form<Fields>& form, const ui::Description& description)
       : DescribedChartSolutionBase(description), form_(form) {}
 
@@ -55,7 +52,10 @@ template <class Fields>
 void registerDescribedChartScreens(const Form<Fields>& form) {
   Screens& screens = Screens::instance();
   screens.add(form.entry.name, [&form] { return new DescribedEntry<Fields>(form); });
-  screens.add(form.solution.name, [&form] { return new DescribedChartSolution<Fields>(form); });
+  screens.add(form.solution.name,
+              [&form] { return new DescribedChartSolution<Fields>(form, form.solution); });
+  for (const ui::Description& d : form.otherSolutions)
+    screens.add(d.name, [&form, &d] { return new DescribedChartSolution<Fields>(form, d); });
 }
 
 }  // namespace vorel::gui

@@ -92,6 +92,11 @@ class DescribedEntry : public ModelEntry<Fields> {
   QWidget* control(const std::string& name) const {
     return this->template findChild<QWidget*>(QString::fromStdString(name));
   }
+  // The solution screen the fields call for (most models have one).
+  void resolver() override {
+    const Fields f = this->fields();
+    if (this->tell(this->check(f))) this->showSolution(form_.solutionShown(f));
+  }
 
  private:
   const Form<Fields>& form_;
@@ -123,8 +128,9 @@ class DescribedSolutionBase : public SolutionScreen {
 template <class Fields>
 class DescribedSolution : public DescribedSolutionBase {
  public:
-  explicit DescribedSolution(const Form<Fields>& form)
-      : DescribedSolutionBase(form.solution), form_(form) {}
+  // `description` is the form's solution or one of its others.
+  DescribedSolution(const Form<Fields>& form, const ui::Description& description)
+      : DescribedSolutionBase(description), form_(form) {}
 
  protected:
   std::unique_ptr<Solution> solveWith(long stepBudget) override {
@@ -142,7 +148,10 @@ template <class Fields>
 void registerDescribedScreens(const Form<Fields>& form) {
   Screens& screens = Screens::instance();
   screens.add(form.entry.name, [&form] { return new DescribedEntry<Fields>(form); });
-  screens.add(form.solution.name, [&form] { return new DescribedSolution<Fields>(form); });
+  screens.add(form.solution.name,
+              [&form] { return new DescribedSolution<Fields>(form, form.solution); });
+  for (const ui::Description& d : form.otherSolutions)
+    screens.add(d.name, [&form, &d] { return new DescribedSolution<Fields>(form, d); });
 }
 
 }  // namespace vorel::gui

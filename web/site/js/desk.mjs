@@ -53,12 +53,12 @@ export class Desk {
         chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
         ticked: (control, checked, edit) => this.run(() => this.tick(name, control, checked, edit)),
       });
-      this.loaded.set(name, { element, solution: form.solution });
+      this.loaded.set(name, { element, solutions: form.solutions });
       return this.loaded.get(name);
     } else if (info.kind === 'solution') {
       const entry = this.load(info.entry);
       if (!entry) return null;
-      element = solutionScreen(info, entry.solution, press);
+      element = solutionScreen(info, entry.solutions[name], press);
     } else return null;
     this.loaded.set(name, { element });
     return this.loaded.get(name);
@@ -268,7 +268,7 @@ export class Desk {
     if (answer.error) throw { runtime: answer.error };
     await this.tell(name, answer.messages);
     if (answer.messages.length) return;
-    const solution = info.solutions[0];
+    const { solution } = answer;
     if (!info.stays) this.hide(name);
     this.show(solution);
   }
