@@ -81,7 +81,7 @@ test('the options show the third option; the solution draws its chart and prints
   await control('Select_C_Totales', 'txtCF3').fill('500');
   await control('Select_C_Totales', 'txtCV3').fill('1');
   await press(page, 'Resolver');
-  const solution = onView(page, 'Select_C_Totales_Sol');
+  const solution = onView(page, 'Select_C_Totales_Sol1');
   await solution.locator('.informe[data-text]').waitFor();
   assert.equal(await solution.locator('figure.grafico svg').count(), 1);
 
@@ -91,7 +91,7 @@ test('the options show the third option; the solution draws its chart and prints
   const placed = page.locator('#impresion .grafico-impreso');
   assert.equal(await placed.locator('svg').count(), 1);
   const { left, top, pageLeft, pageTop, height } = await page.evaluate(() => {
-    const chart = window.vorel.loaded.get('Select_C_Totales_Sol').pages.chart;
+    const chart = window.vorel.loaded.get('Select_C_Totales_Sol1').pages.chart;
     const box = document.querySelector('#impresion .grafico-impreso');
     return {
       left: parseFloat(box.style.left), top: parseFloat(box.style.top),
@@ -109,7 +109,7 @@ test('the options show the third option; the solution draws its chart and prints
   await control('Select_C_Totales', 'Option1').check();
   assert.equal(await hidden('Select_C_Totales', 'txtCF3'), true);
   await press(page, 'Resolver');
-  await onView(page, 'Select_C_Totales_Sol').locator('.informe[data-text]').waitFor();
+  await onView(page, 'Select_C_Totales_Sol1').locator('.informe[data-text]').waitFor();
   await page.evaluate(() => { window.print = () => {}; });
   await press(page, 'Imprimir');
   assert.equal(await page.locator('#impresion .grafico-impreso svg').count(), 1);

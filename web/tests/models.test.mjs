@@ -64,7 +64,7 @@ async function runExamples(model) {
     if (report.startsWith('[salida 4]\n')) {
       // A method that never ends: it runs in slices, the page answers, and
       // cerrar on its screen stops it.
-      const solution = onView(page, model.solution);
+      const solution = page.locator('#escritorio .solution');
       await solution.waitFor();
       await page.waitForTimeout(300);
       assert.equal(await solution.locator('.informe[data-text]').count(), 0, file);
@@ -73,7 +73,8 @@ async function runExamples(model) {
       await solution.waitFor({ state: 'detached' });
       continue;
     }
-    const box = onView(page, model.solution).locator('.informe[data-text]');
+    // The solution screen the fields call for: the one on view.
+    const box = page.locator('#escritorio .solution .informe[data-text]');
     await box.waitFor();
     assert.equal(await box.getAttribute('data-text'), report, file);
     assert.ok(await box.locator('.linea span').count() > 3, 'the report is painted');
