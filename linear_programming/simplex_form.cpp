@@ -23,8 +23,11 @@ class SimplexSolucion : public Solution {
   bool shows(std::string_view command) const override {
     if (command == "forward") return results_.forwardAvailable;
     if (command == "back") return results_.backAvailable;
-    if (command == "volver") return results_.volverAvailable;
-    return true;
+    return false;
+  }
+
+  bool offers(std::string_view command) const override {
+    return command != "volver" || results_.volverAvailable;
   }
 
   bool press(std::string_view command) override {
