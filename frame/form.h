@@ -62,9 +62,17 @@ class Solution {
   // A browsing command pressed: the pages change; false where the screen has
   // no such command.
   virtual bool press(std::string_view /*command*/) { return false; }
+  // Whether a window command of the screen (volver) can be pressed now; a
+  // page may withhold it.
+  virtual bool offers(std::string_view /*command*/) const { return true; }
+  // The messages of a solution the method refused to give (a degenerate first
+  // solution): the screen tells them and goes back to its entry, which keeps
+  // all it held. Empty where the pages stand.
+  const Messages& refusal() const { return refusal_; }
 
  protected:
   Pages pages_;
+  Messages refusal_;
 };
 
 // A solution computed from the entry's fields, which it may change (the

@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
+#include "linear_programming/asignacion_form.h"
 
 namespace vorel::linear_programming {
 
@@ -234,8 +235,7 @@ void exchange(ProblemFile& file, AsignacionFields& f) {
 }
 
 CatalogueEntry catalogueAsignacion() {
-  return catalogued<AsignacionFields>("asignacion", "PL_Asignación", "", exchange, check,
-                                      solveAndReport);
+  return catalogued("asignacion", asignacionForm());
 }
 
 }  // namespace vorel::linear_programming

@@ -5,6 +5,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
+#include "linear_programming/simplex_form.h"
 
 namespace vorel::linear_programming {
 
@@ -452,9 +453,7 @@ void exchange(ProblemFile& file, SimplexFields& f) {
 }
 
 CatalogueEntry catalogueSimplex() {
-  return catalogued<SimplexFields>(
-      "simplex", "PL_Simplex", "", exchange, check,
-      [](SimplexFields& f) { return solveAndReport(f, fileRunStepBudget()); });
+  return catalogued("simplex", simplexForm());
 }
 
 }  // namespace vorel::linear_programming

@@ -46,7 +46,9 @@ inline constexpr const char* kNumFactoresToolTip = "Número de Destinos";
 inline constexpr const char* kNumrestriccionesToolTip = "Número de Orígenes";
 inline constexpr std::array<const char*, 6> kSimplexLabels = {
     "Variables", "Restricciones", "Objetivo", "Tipo", "Existencias", "TÍTULO DEL PROBLEMA"};
-// The caption of Lblrestriccion(i) is "Restricción " followed by i + 1.
+// The caption of Lblrestriccion(i) is "Restricción " followed by i + 1, that
+// of LblFactores(j) "X" followed by j + 1.
+inline constexpr const char* kFuncionObjetivoCaption = "Función objetivo";
 inline constexpr const char* kSimplexSolucionCaption = "Form1";  // label "Simplex"
 inline constexpr std::array<const char*, 2> kFuncionObjetivoItems = {"Maximización",
                                                                      "Minimización"};

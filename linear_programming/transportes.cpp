@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
+#include "linear_programming/transportes_form.h"
 
 namespace vorel::linear_programming {
 
@@ -53,6 +54,11 @@ Messages rediseñar(TransportesFields& f) {
     return {{"Introduzca el Número de Destinos", ""}};
   layOut(f, selectorValue(f.NumOrigen), selectorValue(f.NumDestino));
   return {};
+}
+
+bool celdaDeTotal(const TransportesFields& f, int column, int row) {
+  return item(f.LblDestino, column).caption == "Existencias" ||
+         item(f.LblOrigen, row).caption == "Demandas";
 }
 
 void nuevo(TransportesFields& f) {
@@ -257,8 +263,7 @@ void exchange(ProblemFile& file, TransportesFields& f) {
 // A degenerate first solution sends the screen back to the entry with its
 // message, after the checks: a file run goes through resolver().
 CatalogueEntry catalogueTransportes() {
-  CatalogueEntry entry =
-      catalogued<TransportesFields>("transporte", "PL_Transportes", "", exchange, check, nullptr);
+  CatalogueEntry entry = catalogued("transporte", transportesForm());
   entry.run = [](const std::string& path) -> RunOutcome {
     TransportesFields fields;
     if (!openProblem(path, [&](ProblemFile& f) { exchange(f, fields); }))

@@ -43,6 +43,9 @@ inline constexpr const char* kTransportesDegenerada = "la solución es degenerad
 // RediseñarTabla: refuses an empty selector, else shows the chosen table and
 // captions the headings, "Demandas" and "Existencias" after the last ones.
 Messages rediseñar(TransportesFields& f);
+// Whether the cell C<column+1>(row) holds a supply or a demand: its column's
+// head says "Existencias" or its row's "Demandas".
+bool celdaDeTotal(const TransportesFields& f, int column, int row);
 void nuevo(TransportesFields& f);  // Form_Load's presets again, all cells blank; the title stays
 Messages check(const TransportesFields& f);  // Resolver: every bad cell told
 

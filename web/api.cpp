@@ -240,8 +240,8 @@ const char* fieldsOf(EntryForm& f) {
   return give(j);
 }
 
-void writeMessages(Json& j, const Messages& messages) {
-  j.key("messages").open('[');
+void writeMessages(Json& j, const Messages& messages, const char* key = "messages") {
+  j.key(key).open('[');
   for (const Message& m : messages)
     j.open('{').field("text", m.text).field("focus", m.focus).close('}');
   j.close(']');
@@ -272,6 +272,10 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
     for (const ui::Command& c : d->commands)
       if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
   j.close('}');
+  j.key("offered").open('{');
+  for (const ui::Command& c : f.solution().chrome) j.field(c.name, solution.offers(c.name));
+  j.close('}');
+  if (!solution.refusal().empty()) writeMessages(j, solution.refusal(), "refused");
   return give(j.close('}'));
 }
 

@@ -73,6 +73,14 @@ void addToTable(QWidget& screen, QFrame* table, QWidget*& above, const ui::Contr
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
     grid->addWidget(head, c.row, c.column);
+  } else if (c.kind == ui::ControlKind::Selector) {
+    QStringList items;
+    for (const std::string& item : c.items) items << text(item);
+    QComboBox* list = newSelector(table, items);
+    list->setObjectName(text(c.name));
+    if (c.width > 0) list->setFixedWidth(c.width);
+    list->setToolTip(text(c.toolTip));
+    grid->addWidget(list, c.row, c.column);
   } else if (c.kind == ui::ControlKind::Cell) {
     QLineEdit* cell = newCell(table);
     cell->setObjectName(text(c.name));
@@ -189,7 +197,17 @@ void DescribedSolutionBase::formActivate() {
     ended = solveInSlices([&](long budget) { solved = solveWith(budget); }, 1L << 12, 1L << 21);
     if (ended) solution_ = std::move(solved);
   });
-  if (ended && solution_) SolutionScreen::formActivate();
+  if (!ended || !solution_) return;
+  if (!solution_->refusal().empty()) {
+    // No solution to show: the messages, then back to the entry as it was.
+    run([this] {
+      for (const Message& m : solution_->refusal()) platform().errorBox(QString::fromStdString(m.text));
+      Screens::instance().show(info()->entry);
+      Screens::instance().hide(name());
+    });
+    return;
+  }
+  SolutionScreen::formActivate();
 }
 
 Pages DescribedSolutionBase::compute() {
@@ -206,6 +224,10 @@ void DescribedSolutionBase::showSolution() {
 }
 
 void DescribedSolutionBase::offerCommands() {
+  // The window's own commands a page withholds (volver) are greyed.
+  for (const ui::Command& c : description_.chrome)
+    if (auto* button = findChild<QAbstractButton*>(text(c.name)))
+      button->setEnabled(!solution_ || solution_->offers(c.name));
   for (const ui::Command& c : description_.commands) {
     if (c.action != ui::Action::Browse) continue;
     auto* button = findChild<QAbstractButton*>(text(c.name));

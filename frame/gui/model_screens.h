@@ -100,9 +100,18 @@ class ModelEntry : public EntryScreen {
   // Runs one of the model's own edits of its fields (nuevo, Rediseñar) on the
   // fields as they stand, tells its messages and puts the fields back; false
   // when it told any, and then the screen is left as it was.
+  // An edit that fails with a run-time error leaves on the screen what it
+  // had changed before, as the controls themselves would.
   bool edit(const std::function<Messages(Fields&)>& change) {
     Fields f = fields();
-    if (!tell(change(f))) return false;
+    Messages messages;
+    try {
+      messages = change(f);
+    } catch (...) {
+      setFields(f);
+      throw;
+    }
+    if (!tell(messages)) return false;
     setFields(f);
     return true;
   }

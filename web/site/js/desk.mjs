@@ -135,6 +135,13 @@ export class Desk {
       this.runtimeError(solved.error);
       return;
     }
+    if (solved.refused) {
+      // The method gave no solution: its messages, then back to the entry.
+      for (const message of solved.refused) await messageBox(this.tree.errorTitle, message.text);
+      this.show(info.entry);
+      this.hide(name);
+      return;
+    }
     this.showSolution(name, solved);
   }
 
@@ -143,7 +150,7 @@ export class Desk {
     const screen = this.loaded.get(name);
     screen.pages = solved;
     paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
-    showCommands(screen.element, solved.commands);
+    showCommands(screen.element, solved.commands, solved.offered);
     screen.element.querySelector('.grafico')?.remove();
     if (solved.chart) {
       screen.element.querySelector('.informe').after(

@@ -135,10 +135,15 @@ export function solutionScreen(info, d, press) {
 }
 
 // Shows the browsing commands the solution offers.
-export function showCommands(screenElement, shown) {
+export function showCommands(screenElement, shown, offered) {
   for (const [name, visible] of Object.entries(shown ?? {})) {
     const button = screenElement.querySelector(`.ordenes button[name="${CSS.escape(name)}"]`);
     if (button) button.closest('.orden-rotulada').hidden = !visible;
+  }
+  // The window's own commands a page withholds (volver) are greyed.
+  for (const [name, available] of Object.entries(offered ?? {})) {
+    const button = screenElement.querySelector(`.banda button[name="${CSS.escape(name)}"]`);
+    if (button) button.disabled = !available;
   }
 }
 
