@@ -1,6 +1,7 @@
 #include "frame/gui/model_screens.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -187,8 +188,15 @@ bool SolutionScreen::solveInSlices(const std::function<void(long)>& attempt, lon
     solving_ = false;
     for (auto& [button, enabled] : locked) button->setEnabled(enabled);
   };
-  for (long budget = first;; budget = std::min(budget * 2, longest)) {
+  // A slice grows while it takes less than a frame or two, so the window
+  // answers promptly however costly each step of the method is.
+  constexpr qint64 kSliceMilliseconds = 30;
+  QElapsedTimer timer;
+  for (long budget = first;; budget = timer.elapsed() < kSliceMilliseconds
+                                          ? std::min(budget * 2, longest)
+                                          : budget) {
     try {
+      timer.start();
       attempt(budget);
       unlock();
       return true;

@@ -180,9 +180,10 @@ class SolutionScreen : public Screen {
  protected:
   // Runs a method that may never end as `attempt(budget)`, which solves with a
   // step budget and throws DoesNotEnd when the budget is spent. Between
-  // attempts, each with twice the budget up to `longest`, the desktop handles
-  // its events, so the window stays alive and cerrar can close it; meanwhile
-  // only minimizar and cerrar act. False when the method did not end because
+  // attempts, each with twice the budget (up to `longest`, and only while an
+  // attempt takes under 30 ms), the desktop handles its events, so the window
+  // stays alive and cerrar can close it; meanwhile only minimizar and cerrar
+  // act. False when the method did not end because
   // the screen was closed.
   bool solveInSlices(const std::function<void(long budget)>& attempt, long first, long longest);
 

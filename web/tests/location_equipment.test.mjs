@@ -96,7 +96,7 @@ test('the options show the third option; the solution draws its chart and prints
     return {
       left: parseFloat(box.style.left), top: parseFloat(box.style.top),
       pageLeft: chart.pageLeft, pageTop: chart.pageTop,
-      height: parseFloat(document.querySelector('#impresion').style.height),
+      height: parseFloat(document.querySelector('#impresion .impreso:last-child').style.height),
     };
   });
   assert.ok(Math.abs(left - 718 * pageLeft) < 0.01, `left ${left}`);
@@ -109,7 +109,7 @@ test('the options show the third option; the solution draws its chart and prints
   await control('Select_C_Totales', 'Option1').check();
   assert.equal(await hidden('Select_C_Totales', 'txtCF3'), true);
   await press(page, 'Resolver');
-  await onView(page, 'Select_C_Totales_Sol1').locator('.informe[data-text]').waitFor();
+  await onView(page, 'Select_C_Totales_Sol').locator('.informe[data-text]').waitFor();
   await page.evaluate(() => { window.print = () => {}; });
   await press(page, 'Imprimir');
   assert.equal(await page.locator('#impresion .grafico-impreso svg').count(), 1);
@@ -120,8 +120,19 @@ test('a page without a chart prints no chart', async () => {
   await abrir(page, `${root}/examples/centro-gravedad/libro.txt`);
   await press(page, 'Resolver');
   await onView(page, 'Localizacion_CG_Solucion').locator('.informe[data-text]').waitFor();
-  await page.evaluate(() => { window.print = () => {}; });
+  await page.evaluate(() => { window.print = () => { window.printed = (window.printed ?? 0) + 1; }; });
   await press(page, 'Imprimir');
+  await press(page, 'Imprimir');
+  // Text pages gather, each after the last, until the student prints them.
+  assert.equal(await page.evaluate(() => window.printed), undefined);
+  const sheets = page.locator('#impresion .impreso');
+  assert.equal(await sheets.count(), 2);
   assert.equal(await page.locator('#impresion .grafico-impreso').count(), 0);
-  assert.equal(await page.locator('#impresion').evaluate((e) => e.style.height), '');
+  assert.equal(await sheets.last().evaluate((e) => e.style.height), '');
+  await page.locator('#barra button[name="imprimirReunidas"]').click();
+  assert.equal(await page.evaluate(() => window.printed), 1);
+  assert.equal(await page.locator('#barra button[name="imprimirReunidas"]').count(), 0);
+  // The next Imprimir starts another document.
+  await press(page, 'Imprimir');
+  assert.equal(await sheets.count(), 1);
 });

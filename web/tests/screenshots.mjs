@@ -48,7 +48,7 @@ for (const width of [1280, 390]) {
     await shoot(model.name);
     for (const name of model.presses.split(', ').filter(Boolean)) await press(page, name);
     await press(page, 'Resolver');
-    await onView(page, model.solutions[0]).locator('.informe .linea').first().waitFor();
+    await page.locator('#escritorio .solution .informe .linea').first().waitFor();
     await shoot(`${model.name}_Solucion`);
     const subsystem = paths[model.name][1];
     if (width > 600 && !printed.has(subsystem)) {
@@ -58,6 +58,7 @@ for (const width of [1280, 390]) {
       await page.emulateMedia({ media: 'print' });
       await page.pdf({ path: `${folder}/${model.model}-imprimir.pdf`, format: 'A4' });
       await page.emulateMedia({ media: 'screen' });
+      await page.evaluate(() => window.vorel.printGathered());  // the next page starts afresh
     }
   }
   if (only) {

@@ -4,15 +4,17 @@
 // screen's fields.
 import { el } from './dom.mjs';
 import { messageBox, showHelp } from './dialogs.mjs';
-import { paintReport, clearReport, printPage } from './report.mjs';
+import { paintReport, clearReport, gatherPage, printGathered, gathered } from './report.mjs';
 import { startScreen, menuScreen, entryScreen, solutionScreen, showFields, showCommands } from './screens.mjs';
 import { chartSvg } from './chart.mjs';
 
 const START_MS = 2000;
 // A method that may never end runs in slices: this many steps first, twice as
-// many each time up to the longest, the page handling its events between them.
+// many each time (up to the longest, and while a slice takes under SLICE_MS),
+// the page handling its events between them.
 const FIRST_SLICE = 1 << 12;
 const LONGEST_SLICE = 1 << 21;
+const SLICE_MS = 30;
 
 export class Desk {
   constructor(core, { desk, bar, printView, filePicker, averageEm }) {
@@ -90,6 +92,7 @@ export class Desk {
   // Leaving the app: every screen goes, and the page says so.
   end() {
     clearTimeout(this.startTimer);
+    printGathered(this.places.printView);
     for (const name of [...this.loaded.keys()]) this.unload(name);
     this.render();
   }
@@ -123,8 +126,11 @@ export class Desk {
     const locked = [...screen.element.querySelectorAll('button')]
       .filter((b) => !['minimizar', 'cerrar'].includes(b.name) && !b.disabled);
     let solved;
-    for (let budget = FIRST_SLICE; ; budget = Math.min(budget * 2, LONGEST_SLICE)) {
+    for (let budget = FIRST_SLICE, took = 0; ;
+      budget = took < SLICE_MS ? Math.min(budget * 2, LONGEST_SLICE) : budget) {
+      const started = performance.now();
       solved = this.core.solve(info.entry, budget);
+      took = performance.now() - started;
       if (!solved.doesNotEnd) break;
       for (const b of locked) b.disabled = true;
       await new Promise((go) => { setTimeout(go, 0); });
@@ -163,7 +169,7 @@ export class Desk {
     const { desk, bar } = this.places;
     const shown = top ? this.loaded.get(top).element : this.emptyDesk();
     if (desk.firstElementChild !== shown) desk.replaceChildren(shown);
-    bar.replaceChildren(...[...this.minimised].map((name) => el('button', {
+    bar.replaceChildren(...this.gatheredButton(), ...[...this.minimised].map((name) => el('button', {
       type: 'button',
       className: 'minimizada',
       name,
@@ -308,8 +314,31 @@ export class Desk {
     setTimeout(() => URL.revokeObjectURL(link.href), 10000);
   }
 
+  // Imprimir gathers the page; a chart's page ends the document, which then
+  // prints. The bar offers what is gathered until the student prints it, and
+  // leaving the app prints it, as ending the desktop program does.
   imprimir(name) {
     const { pages } = this.loaded.get(name);
-    if (pages) printPage(this.places.printView, pages);
+    if (!pages) return;
+    if (gatherPage(this.places.printView, pages)) this.printGathered();
+    else this.render();
+  }
+
+  printGathered() {
+    printGathered(this.places.printView);
+    this.render();
+  }
+
+  gatheredButton() {
+    const count = gathered(this.places.printView);
+    if (!count) return [];
+    return [el('button', {
+      type: 'button',
+      className: 'reunidas',
+      name: 'imprimirReunidas',
+      textContent: count === 1 ? 'Imprimir 1 página reunida' : `Imprimir ${count} páginas reunidas`,
+      title: 'Las páginas de Imprimir se reúnen hasta que se imprimen juntas',
+      onclick: () => this.printGathered(),
+    })];
   }
 }

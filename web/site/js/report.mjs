@@ -51,27 +51,47 @@ export const PRINTABLE = { width: 718, height: 1047 };
 // A chart's picture on paper keeps its size on screen.
 const CHART = { width: 480, height: 330 };
 
-// Imprimir: the printed page in the print view, then the browser's print
-// dialog (a printer, or a PDF). The type is made just small enough for the
-// widest line to fit the paper, as on the desktop. A solution with a chart
-// prints it over the page at its fractions of the page's width and height,
-// narrowed where it would pass the right edge, on a page of its own.
-export function printPage(view, solved) {
+// Imprimir: the printed page joins the document being gathered in the print
+// view, as the desktop's text prints gather in one printer document; the type
+// is made just small enough for the widest line to fit the paper, as on the
+// desktop. A page with a chart takes a sheet of its own, the chart at its
+// place on the paper, and ends the document: `true` when it did, and the
+// document is then to be printed at once.
+export function gatherPage(view, solved) {
+  if (view.dataset.printed) {
+    view.replaceChildren();
+    delete view.dataset.printed;
+  }
   const px = Math.min(PAGE_PX, PRINTABLE.width / Math.max(widestLine(solved.page), 1));
-  paint(view, solved.page, px);
-  view.style.height = '';
+  const sheet = el('div', { className: 'impreso' });
+  paint(sheet, solved.page, px);
   if (solved.chart) {
     const left = PRINTABLE.width * solved.chart.pageLeft;
     const top = PRINTABLE.height * solved.chart.pageTop;
     const width = Math.max(0, Math.min(CHART.width, PRINTABLE.width - left));
-    view.append(el('div', {
+    sheet.append(el('div', {
       className: 'grafico-impreso',
       style: `left: ${left.toFixed(2)}px; top: ${top.toFixed(2)}px; width: ${width.toFixed(2)}px`,
     }, chartSvg(solved.chart)));
-    view.style.height = `${PRINTABLE.height}px`;
+    sheet.classList.add('con-grafico');
+    sheet.style.height = `${PRINTABLE.height}px`;
   }
-  view.dataset.text = solved.pageText;
+  sheet.dataset.text = solved.pageText;
+  view.append(sheet);
+  return Boolean(solved.chart);
+}
+
+// The gathered document through the browser's print dialog (a printer, or a
+// PDF); the next Imprimir starts another.
+export function printGathered(view) {
+  if (!gathered(view)) return;
   window.print();
+  view.dataset.printed = 'sí';
+}
+
+// How many pages wait to be printed.
+export function gathered(view) {
+  return view.dataset.printed ? 0 : view.children.length;
 }
 
 // The widest line of a laid-out report, in ems of the report font.

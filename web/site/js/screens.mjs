@@ -71,19 +71,22 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
         });
       case 'selector':
         return el('select', {
-          id: id(c.name), name: c.name, title: c.toolTip || undefined, style: place(c), hidden: !c.visible,
+          id: id(c.name), name: c.name, title: c.toolTip || undefined, hidden: !c.visible, ...at(c),
+          style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
           onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
         }, c.items.map((item) => el('option', { textContent: item })));
       case 'option':
       case 'check':
-        return el('label', { className: c.kind, style: place(c), hidden: !c.visible, title: c.toolTip || undefined },
+        return el('label', { className: c.kind, style: place(c), hidden: !c.visible, title: c.toolTip || undefined, ...at(c) },
           el('input', {
             type: c.kind === 'option' ? 'radio' : 'checkbox', id: id(c.name), name: c.name,
             onchange: (e) => ticked(c.name, e.target.checked, c.edit),
           }), c.text);
       default:
         if (c.buddy) {
-          return el('label', { htmlFor: id(c.buddy), name: c.name || undefined, textContent: c.text, style: place(c) });
+          return el('label', {
+            htmlFor: id(c.buddy), name: c.name || undefined, textContent: c.text, style: place(c), ...at(c),
+          });
         }
         return el(c.row < 0 ? 'p' : 'span', {
           className: c.row < 0 ? 'intro' : c.group === 0 ? 'texto' : c.row === 0 ? 'cabecera' : 'rotulo',
@@ -164,7 +167,21 @@ export function showFields(screenElement, fields) {
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
   }
+  for (const table of screenElement.querySelectorAll('.tabla')) closeUpColumns(table);
   nameCells(screenElement);
+}
+
+// A table's columns with nothing shown take no room: the shown ones stand
+// side by side, each at its place among them.
+function closeUpColumns(table) {
+  const placed = [...table.children].filter((e) => e.dataset.column !== undefined);
+  const shown = new Set(placed.filter((e) => !e.hidden && !e.closest('[hidden]'))
+    .map((e) => Number(e.dataset.column)));
+  const order = [...shown].sort((a, b) => a - b);
+  for (const e of placed) {
+    const at = order.indexOf(Number(e.dataset.column));
+    if (at >= 0) e.style.gridColumn = String(at + 1);
+  }
 }
 
 // A table's cell is read by its headings: the row's, then the column's, as
