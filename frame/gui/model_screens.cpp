@@ -65,9 +65,10 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
       const ui::Control* caption = nullptr;
       for (const ui::Control& l : d.controls)
         if (l.kind == ui::ControlKind::Label && l.buddy == c.name) caption = &l;
+      // At its row of the description, which the controls drawn beside it share.
       addField(QString::fromStdString(c.name),
                caption ? QString::fromStdString(caption->text) : QString(),
-               QString::fromStdString(c.toolTip));
+               QString::fromStdString(c.toolTip), c.row);
     }
   body()->addStretch();
 
@@ -95,8 +96,8 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
 }
 
 QLineEdit* EntryScreen::addField(const QString& objectName, const QString& label,
-                                 const QString& toolTip) {
-  const int row = fields_->rowCount();
+                                 const QString& toolTip, int row) {
+  if (row < 0) row = fields_->rowCount();
   auto* caption = styled(new QLabel(label, this), "font-size: 10pt; color: #1A202C;");
   auto* box = new QLineEdit(this);
   box->setObjectName(objectName);

@@ -33,8 +33,10 @@ class EntryScreen : public Screen {
   explicit EntryScreen(const ui::Description& description);
 
   QLineEdit* titleField() const { return titleField_; }
-  // A labelled text box on the form's grid of fields.
-  QLineEdit* addField(const QString& objectName, const QString& label, const QString& toolTip = {});
+  // A labelled text box on the form's grid of fields, in a row of its own
+  // below the others or, where given, at `row`.
+  QLineEdit* addField(const QString& objectName, const QString& label, const QString& toolTip = {},
+                      int row = -1);
   QGridLayout* fieldGrid() const { return fields_; }
 
   // Shows every message in order, focus going to its control, as Resolver's
