@@ -1,5 +1,6 @@
 #include "decision/electra1.h"
 
+#include "decision/decision_forms.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
 
@@ -122,8 +123,7 @@ void exchange(ProblemFile& file, Electra1Fields& f) {
 }
 
 CatalogueEntry catalogueElectra1() {
-  return catalogued<Electra1Fields>("electra1", "DecisionElectra1", "", exchange, check,
-                                    solveAndReport);
+  return catalogued("electra1", electra1Form());
 }
 
 }  // namespace vorel::decision

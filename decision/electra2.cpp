@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "decision/decision_forms.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
 
@@ -270,8 +271,7 @@ void exchange(ProblemFile& file, Electra2Fields& f) {
 }
 
 CatalogueEntry catalogueElectra2() {
-  return catalogued<Electra2Fields>("electra2", "DecisionElectra2", "", exchange, check,
-                                    solveAndReport);
+  return catalogued("electra2", electra2Form());
 }
 
 }  // namespace vorel::decision

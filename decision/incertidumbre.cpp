@@ -1,6 +1,7 @@
 #include "decision/incertidumbre.h"
 
 #include "frame/arith.h"
+#include "decision/decision_forms.h"
 #include "frame/catalogue.h"
 
 namespace vorel::decision {
@@ -365,8 +366,7 @@ void exchange(ProblemFile& file, IncertidumbreFields& f) {
 // The screen report is the Wald page, the one painted at activation; the
 // printed page has every criterion.
 CatalogueEntry catalogueIncertidumbre() {
-  return catalogued<IncertidumbreFields>("incertidumbre", "DecisionIncertidumbre", "", exchange,
-                                         check, solveAndReport);
+  return catalogued("incertidumbre", incertidumbreForm());
 }
 
 }  // namespace vorel::decision

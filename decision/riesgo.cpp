@@ -1,5 +1,6 @@
 #include "decision/riesgo.h"
 
+#include "decision/decision_forms.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
 
@@ -290,8 +291,7 @@ void exchange(ProblemFile& file, RiesgoFields& f) {
 
 // The screen report is the first page, simple dominance.
 CatalogueEntry catalogueRiesgo() {
-  return catalogued<RiesgoFields>("riesgo", "DecisionRiesgoNobayesiano", "", exchange, check,
-                                  solveAndReport);
+  return catalogued("riesgo", riesgoForm());
 }
 
 }  // namespace vorel::decision

@@ -28,7 +28,8 @@ struct ModelFunctions {
 };
 
 // A control bound to the fields: where its text, its visibility or its list
-// index live (each where the control has one).
+// index live (each where the control has one); a label's back colour, as the
+// platform stores it (a Long with red in the lowest byte).
 template <class Fields>
 struct Binding {
   std::string control;
@@ -36,6 +37,7 @@ struct Binding {
   std::function<bool*(Fields&)> visible = {};
   std::function<int*(Fields&)> index = {};
   std::function<bool*(Fields&)> checked = {};
+  std::function<long*(Fields&)> color = {};
 };
 
 // A text box that shows a member.
@@ -126,6 +128,7 @@ struct ControlState {
   const bool* visible;
   const int* index;
   const bool* checked;
+  const long* color;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -183,7 +186,7 @@ class FieldsForm : public EntryForm {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
-             b.checked ? b.checked(fields_) : nullptr});
+             b.checked ? b.checked(fields_) : nullptr, b.color ? b.color(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);

@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <tuple>
 
 #include "frame/catalogue.h"
 #include "frame/form.h"
@@ -163,6 +165,135 @@ TEST(WebApiOptions, TheTickedOptionChoosesTheSolutionScreen) {
   EXPECT_THAT(ticked, HasSubstr(R"("Option1":{"checked":false},"Option2":{"checked":true})"));
   EXPECT_THAT(std::string(vorel_check(screen.c_str())), HasSubstr(R"("solution":"Select_C_Totales_Sol1")"));
   vorel_unload(screen.c_str());
+}
+
+// The browsing commands a solution answers with, shown or not: the names of
+// those shown, volver among them.
+std::set<std::string> shownCommands(const std::string& answer) {
+  std::set<std::string> shown;
+  const std::size_t from = answer.find(R"("commands":{)");
+  if (from == std::string::npos) return {"?"};
+  const std::string commands = answer.substr(from, answer.find('}', from) - from);
+  for (std::size_t at = 0; (at = commands.find(":true", at)) != std::string::npos; ++at) {
+    const std::size_t open = commands.rfind('"', commands.rfind('"', at - 1) - 1);
+    shown.insert(commands.substr(open + 1, commands.rfind('"', at - 1) - open - 1));
+  }
+  return shown;
+}
+
+// The text of the page a solution paints on the screen (not the printed one).
+std::string screenText(const std::string& answer) {
+  const std::size_t from = answer.find(R"("text":")");
+  const std::size_t to = answer.find(R"(","pageText")");
+  return from == std::string::npos || to == std::string::npos ? "?" : answer.substr(from, to - from);
+}
+
+// A described screen loaded with one of its examples.
+class Loaded {
+ public:
+  Loaded(const char* screen, const std::string& file) : screen_(screen) {
+    vorel_load(screen);
+    const std::string bytes = example(file);
+    vorel_open(screen, bytes.data(), static_cast<int>(bytes.size()));
+  }
+  ~Loaded() { vorel_unload(screen_); }
+  Loaded(const Loaded&) = delete;
+  Loaded& operator=(const Loaded&) = delete;
+
+ private:
+  const char* screen_;
+};
+
+using Shown = std::set<std::string>;
+
+// Decisions under uncertainty: each page shows its own arrows and volver
+// only the first; where forward2 and NoContinuar2 lead depends on Alfa as it
+// stands in the fields at the click, not at the activation.
+TEST(WebApiBrowsing, UncertaintyPagesOfferTheirArrowsAndReadAlfaAtTheClick) {
+  const char* screen = "DecisionIncertidumbre";
+  Loaded loaded(screen, "incertidumbre/libro.txt");
+  const std::string solved = vorel_solve(screen, 0);
+  EXPECT_THAT(screenText(solved), HasSubstr("CRITERIO DE WALD, MAXIMÍN O PESIMISTA"));
+  EXPECT_EQ(shownCommands(solved), (Shown{"forward1", "volver"}));
+  struct Step {
+    const char* alfa;  // typed before the click; null: as it stands
+    const char* command;
+    const char* page;  // what the page painted says
+    Shown shown;
+  } steps[] = {
+      {nullptr, "forward1", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
+      {nullptr, "forward2", "CRITERIO DE SAVAGE", {"Continuar1", "Continuar2"}},
+      {nullptr, "Continuar1", "CRITERIO DE HURWICZ", {"NoContinuar2"}},
+      {"abc", "NoContinuar2", "CRITERIO DE SAVAGE", {"NoContinuar"}},
+      {nullptr, "NoContinuar", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
+      {"0.5", "forward2", "CRITERIO DE SAVAGE", {"Continuar1", "Continuar2"}},
+      {nullptr, "Continuar2", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
+      {nullptr, "Back1", "CRITERIO DE WALD", {"forward1", "volver"}},
+  };
+  for (const Step& s : steps) {
+    SCOPED_TRACE(s.command);
+    if (s.alfa) {
+      ASSERT_TRUE(vorel_set(screen, "Alfa", s.alfa));
+    }
+    const std::string answer = vorel_press(screen, s.command);
+    EXPECT_THAT(screenText(answer), HasSubstr(s.page));
+    EXPECT_EQ(shownCommands(answer), s.shown);
+  }
+  // An arrow the page does not show leaves it as it is; a name that is no
+  // arrow is no command.
+  EXPECT_EQ(shownCommands(vorel_press(screen, "Continuar1")), (Shown{"forward1", "volver"}));
+  EXPECT_THAT(std::string(vorel_press(screen, "volver")), HasSubstr(R"("error")"));
+  // The next activation starts again at Wald.
+  vorel_press(screen, "forward1");
+  EXPECT_EQ(shownCommands(vorel_solve(screen, 0)), (Shown{"forward1", "volver"}));
+}
+
+TEST(WebApiBrowsing, RiskPagesGoForwardAndBackAndVolverOnlyFromTheFirst) {
+  const char* screen = "DecisionRiesgoNobayesiano";
+  Loaded loaded(screen, "riesgo/libro.txt");
+  const std::string solved = vorel_solve(screen, 0);
+  EXPECT_THAT(screenText(solved), HasSubstr("CRITERIO DE LA DOMINANCIA SIMPLE"));
+  EXPECT_EQ(shownCommands(solved), (Shown{"forward1", "volver"}));
+  const std::tuple<const char*, const char*, Shown> steps[] = {
+      {"forward1", "DOMINANCIA ESTOC", {"Back1", "forward2"}},
+      {"forward2", "CRITERIO DEL VALOR MEDIO", {"back2"}},
+      {"back2", "DOMINANCIA ESTOC", {"Back1", "forward2"}},
+      {"Back1", "DOMINANCIA SIMPLE", {"forward1", "volver"}},
+  };
+  for (const auto& [command, page, shown] : steps) {
+    SCOPED_TRACE(command);
+    const std::string answer = vorel_press(screen, command);
+    EXPECT_THAT(screenText(answer), HasSubstr(page));
+    EXPECT_EQ(shownCommands(answer), shown);
+  }
+  // The printed page holds the three criteria whatever the page shown.
+  vorel_press(screen, "forward1");
+  const std::string answer = vorel_press(screen, "forward2");
+  EXPECT_THAT(answer, HasSubstr(quoted(golden("riesgo/libro.page"))));
+}
+
+// The ELECTRE tables' column heads carry their captions and back colours in
+// the fields; Rediseñar moves "Ponderación" and its colour after the last
+// alternative chosen.
+TEST(WebApiTable, ElectraHeadsCarryTheirCaptionsAndColours) {
+  const char* screen = "DecisionElectra1";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("LblAlternativas(3)":{"text":"Alternativa 4","visible":true,)j"
+                                R"j("color":"#C0FFC0"},"LblAlternativas(4)":{"text":"Ponderación",)j"
+                                R"j("visible":true,"color":"#C0C0FF"})j"));
+  // The entry's way back keeps the name the screen knows it by.
+  EXPECT_THAT(loaded, HasSubstr(R"j({"name":"Image6","toolTip":"Volver")j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumAlternativas", 1));
+  const std::string edited = vorel_edit(screen, "RediseñarTabla");
+  EXPECT_THAT(edited, HasSubstr(R"j("LblAlternativas(2)":{"text":"Ponderación","visible":true,)j"
+                                R"j("color":"#C0C0FF"},"LblAlternativas(3)":{"text":"Alternativa 4",)j"
+                                R"j("visible":false,"color":"#C0FFC0"})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("C3(3)":{"text":"","visible":true},)j"
+                                R"j("C4(3)":{"text":"","visible":false})j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumCriterios", -1));
+  EXPECT_THAT(std::string(vorel_edit(screen, "RediseñarTabla")),
+              HasSubstr(R"j({"messages":[{"text":"Seleccione el número de Criterios","focus":""}])j"));
+  vorel_unload(screen);
 }
 
 TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {

@@ -187,6 +187,12 @@ std::string hexColor(unsigned rgb) {
   return s;
 }
 
+// A colour as the platform stores it (a Long with red in the lowest byte) for CSS.
+std::string platformColor(long bgr) {
+  const auto v = static_cast<unsigned long>(bgr);
+  return hexColor(static_cast<unsigned>(((v & 0xFF) << 16) | (v & 0xFF00) | ((v >> 16) & 0xFF)));
+}
+
 // The advance of a UTF-8 text in ems, from the measured code points.
 double emWidth(const std::string& utf8) {
   double width = 0;
@@ -229,6 +235,7 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.visible) j.field("visible", *c.visible);
     if (c.index) j.field("index", *c.index);
     if (c.checked) j.field("checked", *c.checked);
+    if (c.color) j.field("color", platformColor(*c.color));
     j.close('}');
   });
   j.close('}');
@@ -268,9 +275,12 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
   if (!pages.chart.empty()) j.key("chart").raw(chartJson(pages.chart));
   j.key("commands").open('{');
-  for (const ui::Description* d : f.solutions())
+  for (const ui::Description* d : f.solutions()) {
     for (const ui::Command& c : d->commands)
       if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
+  }
+  for (const ui::Command& c : f.solution().chrome)
+    if (c.action == ui::Action::Volver) j.field(c.name, solution.shows(c.name));
   j.close('}');
   j.key("offered").open('{');
   for (const ui::Command& c : f.solution().chrome) j.field(c.name, solution.offers(c.name));

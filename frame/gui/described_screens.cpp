@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 #include <map>
+#include <vector>
 
 #include "frame/gui/picture_button.h"
 #include "frame/gui/table_screen.h"
@@ -52,8 +53,21 @@ QAbstractButton* tick(QWidget& screen, const ui::Control& c,
   return button;
 }
 
-// A control of the table: the text above it, column and row headings, cells.
-void addToTable(QWidget& screen, QFrame* table, QWidget*& above, const ui::Control& c) {
+// The window's commands take the names the description gives them ("Image5"
+// for volver), where they differ from the frame's.
+void nameChrome(QWidget& screen, const ui::Description& d) {
+  const nav::ScreenInfo* info = nav::findScreen(d.name);
+  if (!info) return;
+  for (const ui::Command& frame : ui::chrome(*info))
+    for (const ui::Command& own : d.chrome)
+      if (own.action == frame.action && own.name != frame.name)
+        if (auto* button = screen.findChild<QAbstractButton*>(text(frame.name)))
+          button->setObjectName(text(own.name));
+}
+
+// A control of the table: the texts above it, column and row headings, cells.
+void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
+                const ui::Control& c) {
   QGridLayout* grid = tableGrid(table);
   if (c.row < 0) {
     auto* label = new QLabel(text(c.text), &screen);
@@ -61,7 +75,7 @@ void addToTable(QWidget& screen, QFrame* table, QWidget*& above, const ui::Contr
     label->setWordWrap(true);
     label->setMaximumWidth(560);
     label->setStyleSheet("font-size: 10pt; color: #2D3748;");
-    above = label;
+    above.push_back(label);
   } else if (c.kind == ui::ControlKind::Label && c.row == 0) {
     QLabel* head = newColumnHead(table);
     head->setObjectName(text(c.name));
@@ -98,7 +112,7 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
   QGridLayout* fields = screen.fieldGrid();
   std::map<std::string, QButtonGroup*> families;
   std::map<std::string, QLabel*> captions;  // labels naming a control drawn here
-  QWidget* above = nullptr;
+  std::vector<QWidget*> above;
   int lastColumn = 1;
   for (const ui::Control& c : d.controls) {
     if (c.group == 1) {
@@ -158,8 +172,9 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
     QGridLayout* grid = tableGrid(drawn.table);
     grid->setColumnStretch(grid->columnCount(), 1);
     placeTable(body, fields, drawn.table);
-    if (above) body->insertWidget(body->indexOf(drawn.table), above);
+    for (QWidget* text : above) body->insertWidget(body->indexOf(drawn.table), text);
   }
+  nameChrome(screen, d);
   return drawn;
 }
 
@@ -172,13 +187,25 @@ void focusFirstCell(QWidget& screen, const ui::Description& d) {
       }
 }
 
+long labelColor(const QLabel& label) {
+  return static_cast<long>(label.property("BackColor").toLongLong());
+}
+
+void paintLabel(QLabel& label, long backColor) {
+  label.setProperty("BackColor", QVariant::fromValue<qlonglong>(backColor));
+  paintColumnHead(&label, platformColor(backColor));
+}
+
 DescribedSolutionBase::DescribedSolutionBase(const ui::Description& d)
     : SolutionScreen(d), description_(d) {
+  nameChrome(*this, d);
   int at = 0;
   for (const ui::Command& c : d.commands)
     if (c.action == ui::Action::Browse) {
       auto* button = command(c, [this, name = c.name] {
-        if (solution_ && solution_->press(name)) showSolution();
+        if (!solution_) return;
+        readEntry();
+        if (solution_->press(name)) showSolution();
       });
       QVBoxLayout* column = captioned(button);
       commandRow()->insertLayout(at++, column);
@@ -224,10 +251,14 @@ void DescribedSolutionBase::showSolution() {
 }
 
 void DescribedSolutionBase::offerCommands() {
-  // The window's own commands a page withholds (volver) are greyed.
+  // The window's own commands: a page may withhold one (greyed), and volver
+  // shows only where the solution leads back from the page on view.
   for (const ui::Command& c : description_.chrome)
-    if (auto* button = findChild<QAbstractButton*>(text(c.name)))
+    if (auto* button = findChild<QAbstractButton*>(text(c.name))) {
       button->setEnabled(!solution_ || solution_->offers(c.name));
+      if (c.action == ui::Action::Volver)
+        button->setVisible(solution_ ? solution_->shows(c.name) : c.visible);
+    }
   for (const ui::Command& c : description_.commands) {
     if (c.action != ui::Action::Browse) continue;
     auto* button = findChild<QAbstractButton*>(text(c.name));

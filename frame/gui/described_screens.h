@@ -28,6 +28,10 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
+// A label's back colour as the platform stores it (see Binding::color), and
+// the label painted in one.
+long labelColor(const QLabel& label);
+void paintLabel(QLabel& label, long backColor);
 
 template <class Fields>
 class DescribedEntry : public ModelEntry<Fields> {
@@ -50,6 +54,10 @@ class DescribedEntry : public ModelEntry<Fields> {
       QWidget* w = control(b.control);
       if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
         *b.text(f) = box->text().toStdString();
+      if (auto* label = qobject_cast<QLabel*>(w); label && b.text)
+        *b.text(f) = label->text().toStdString();
+      if (auto* label = qobject_cast<QLabel*>(w); label && b.color)
+        *b.color(f) = labelColor(*label);
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         *b.index(f) = list->currentIndex();
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
@@ -68,6 +76,8 @@ class DescribedEntry : public ModelEntry<Fields> {
         box->setText(QString::fromStdString(*b.text(f)));
       if (auto* label = qobject_cast<QLabel*>(w); label && b.text)
         label->setText(QString::fromStdString(*b.text(f)));
+      if (auto* label = qobject_cast<QLabel*>(w); label && b.color)
+        paintLabel(*label, *b.color(f));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         list->setCurrentIndex(*b.index(f));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
@@ -114,6 +124,9 @@ class DescribedSolutionBase : public SolutionScreen {
  protected:
   // Solves with a step budget (see Solver); the solution replaces the last.
   virtual std::unique_ptr<Solution> solveWith(long stepBudget) = 0;
+  // Before a browsing command: the fields the solution was given take the
+  // entry screen's as they stand, as the browser's live fields do.
+  virtual void readEntry() {}
   Pages compute() override;
   // Paints the solution as it stands after a browsing command.
   void showSolution();
@@ -137,6 +150,7 @@ class DescribedSolution : public DescribedSolutionBase {
     fields_ = entry<DescribedEntry<Fields>>().fields();
     return form_.solve(fields_, stepBudget);
   }
+  void readEntry() override { fields_ = entry<DescribedEntry<Fields>>().fields(); }
 
  private:
   const Form<Fields>& form_;

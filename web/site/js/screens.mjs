@@ -106,7 +106,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   }));
   const commands = el('div', { className: 'ordenes' },
     d.commands.filter((c) => c.action !== 'edit').map((c) => commandPicture(c, press, { captioned: true })));
-  const screen = windowFrame(info, d.heading, press,
+  const screen = windowFrame(ownChrome(info, d), d.heading, press,
     d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
     el('div', { className: 'campos' }, group(0), edits),
     table.filter((e) => e.tagName === 'P'),
@@ -134,14 +134,23 @@ export function solutionScreen(info, d, press) {
     }
     return picture;
   });
-  return windowFrame(info, d.heading, press, box, el('div', { className: 'ordenes' }, commands));
+  return windowFrame(ownChrome(info, d), d.heading, press, box, el('div', { className: 'ordenes' }, commands));
 }
 
-// Shows the browsing commands the solution offers.
+// The window's commands under the names the screen's description gives them
+// ("Image5" for volver).
+function ownChrome(info, d) {
+  return d.chrome?.length ? { ...info, chrome: d.chrome } : info;
+}
+
+// Shows the browsing commands the solution offers, volver where it leads back
+// only from some pages, and greys the window's commands a page withholds.
 export function showCommands(screenElement, shown, offered) {
   for (const [name, visible] of Object.entries(shown ?? {})) {
     const button = screenElement.querySelector(`.ordenes button[name="${CSS.escape(name)}"]`);
     if (button) button.closest('.orden-rotulada').hidden = !visible;
+    const window = screenElement.querySelector(`.ventana button[name="${CSS.escape(name)}"]`);
+    if (window) window.hidden = !visible;
   }
   // The window's own commands a page withholds (volver) are greyed.
   for (const [name, available] of Object.entries(offered ?? {})) {
@@ -163,6 +172,7 @@ export function showFields(screenElement, fields) {
     }
     if ('index' in state) control.selectedIndex = state.index;
     if ('checked' in state) control.checked = state.checked;
+    if ('color' in state) control.style.backgroundColor = state.color;
     // An option or check box shows and hides with its caption.
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
