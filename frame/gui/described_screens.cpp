@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QRadioButton>
 #include <map>
 
@@ -52,9 +53,13 @@ QAbstractButton* tick(QWidget& screen, const ui::Control& c,
   return button;
 }
 
-// A control of the table: the text above it, column and row headings, cells.
+// A control of a table: the text above it, column and row headings, cells,
+// each over the rows and columns of the table's grid it covers.
 void addToTable(QWidget& screen, QFrame* table, QWidget*& above, const ui::Control& c) {
   QGridLayout* grid = tableGrid(table);
+  const auto place = [&](QWidget* w, Qt::Alignment align = {}) {
+    grid->addWidget(w, c.row, c.column, c.rowSpan, c.columnSpan, align);
+  };
   if (c.row < 0) {
     auto* label = new QLabel(text(c.text), &screen);
     label->setObjectName(text(c.name));
@@ -67,18 +72,20 @@ void addToTable(QWidget& screen, QFrame* table, QWidget*& above, const ui::Contr
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
     if (c.width > 0) head->setFixedWidth(c.width);
-    grid->addWidget(head, 0, c.column);
+    place(head);
   } else if (c.kind == ui::ControlKind::Label) {
     QLabel* head = newHeading(table);
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
-    grid->addWidget(head, c.row, c.column);
+    // A heading over several rows stands at the top of them.
+    if (c.rowSpan > 1) head->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    place(head);
   } else if (c.kind == ui::ControlKind::Cell) {
     QLineEdit* cell = newCell(table);
     cell->setObjectName(text(c.name));
     if (c.width > 0) cell->setFixedWidth(c.width);
     cell->setToolTip(text(c.toolTip));
-    grid->addWidget(cell, c.row, c.column);
+    place(cell, Qt::AlignHCenter);
   }
 }
 
@@ -89,13 +96,14 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
   DescribedControls drawn;
   QGridLayout* fields = screen.fieldGrid();
   std::map<std::string, QButtonGroup*> families;
-  std::map<std::string, QLabel*> captions;  // labels naming a control drawn here
-  QWidget* above = nullptr;
+  std::map<std::string, QLabel*> captions;             // labels naming a control drawn here
+  std::map<int, std::pair<QFrame*, QWidget*>> tables;  // by group: the table, the text above it
   int lastColumn = 1;
   for (const ui::Control& c : d.controls) {
-    if (c.group == 1) {
-      if (!drawn.table) drawn.table = tableFrame(screen);
-      addToTable(screen, drawn.table, above, c);
+    if (c.group >= 1) {
+      auto& [table, above] = tables[c.group];
+      if (!table) table = tableFrame(screen);
+      addToTable(screen, table, above, c);
       continue;
     }
     lastColumn = std::max(lastColumn, c.column);
@@ -146,13 +154,41 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
       fields->setColumnMinimumWidth(lastColumn + 1, 24);
       fields->setColumnStretch(lastColumn + 3, 1);
     }
-  if (drawn.table) {
-    QGridLayout* grid = tableGrid(drawn.table);
-    grid->setColumnStretch(grid->columnCount(), 1);
-    placeTable(body, fields, drawn.table);
-    if (above) body->insertWidget(body->indexOf(drawn.table), above);
+  // The tables below the fields, in the order of their groups, each with the
+  // text above it: one below the other, or side by side.
+  auto* across = d.tablesAcross ? new QHBoxLayout() : nullptr;
+  int at = body->indexOf(fields) + 1;
+  if (across) {
+    across->setSpacing(14);
+    body->insertLayout(at++, across);
   }
+  for (auto& [group, table] : tables) {
+    auto [frame, above] = table;
+    if (!drawn.table) drawn.table = frame;
+    drawn.tables.push_back(frame);
+    QGridLayout* grid = tableGrid(frame);
+    if (!across) grid->setColumnStretch(grid->columnCount(), 1);
+    auto* column = across ? new QVBoxLayout() : nullptr;
+    if (column) across->addLayout(column);
+    for (QWidget* w : {above, static_cast<QWidget*>(frame)}) {
+      if (!w) continue;
+      if (column)
+        column->addWidget(w, 0, Qt::AlignTop);
+      else
+        body->insertWidget(at++, w);
+    }
+    if (column) column->addStretch();
+  }
+  if (across) across->addStretch();
   return drawn;
+}
+
+void showTables(const DescribedControls& drawn) {
+  for (QFrame* table : drawn.tables) {
+    const auto controls = table->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    table->setVisible(std::any_of(controls.begin(), controls.end(),
+                                  [](QWidget* w) { return !w->isHidden(); }));
+  }
 }
 
 void focusFirstCell(QWidget& screen, const ui::Description& d) {

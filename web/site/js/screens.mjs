@@ -55,10 +55,13 @@ export function menuScreen(info, d, press) {
 // `showFields` puts the fields on it.
 export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const id = (name) => `${d.name}-${name}`;
-  // Every control at its place on its grid: the fields' grid, or the table's
-  // (whose row -1 is the text above it).
+  // Every control at its place on its grid: the fields' grid, or a table's
+  // (whose row -1 is the text above it), over the rows and columns it covers.
+  const span = (n) => (n > 1 ? ` / span ${n}` : '');
   const place = (c) => (c.row >= 0 && c !== d.titleLabel && c !== d.titleField
-    ? `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}` : undefined);
+    ? `grid-row: ${c.row + 1}${span(c.rowSpan)}; grid-column: ${c.column + 1}${span(c.columnSpan)}${
+      c.rowSpan > 1 ? '; align-self: start' : ''}`
+    : undefined);
   const draw = (c) => {
     switch (c.kind) {
       case 'textbox':
@@ -92,8 +95,14 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
     }
   };
   const group = (n) => d.controls.filter((c) => c.group === n).map(draw);
-  const table = group(1);
-  const cell = d.controls.find((c) => c.kind === 'cell' && c.width);
+  // Each table, the text above it first.
+  const groups = [...new Set(d.controls.map((c) => c.group).filter((g) => g >= 1))].sort((a, b) => a - b);
+  const tables = groups.map((g) => {
+    const drawn = group(g);
+    return [drawn.filter((e) => e.tagName === 'P'),
+      el('div', { className: 'tabla', role: 'group', style: tableColumns(d.controls.filter((c) => c.group === g)) },
+        drawn.filter((e) => e.tagName !== 'P'))];
+  });
   const title = el('div', { className: 'titulo' }, draw(d.titleLabel), draw(d.titleField));
   // The commands that edit the fields (Rediseñar) stand beside them.
   const lastColumn = Math.max(1, ...d.controls.filter((c) => c.group === 0).map((c) => c.column));
@@ -106,13 +115,24 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const screen = windowFrame(info, d.heading, press,
     d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
     el('div', { className: 'campos' }, group(0), edits),
-    table.filter((e) => e.tagName === 'P'),
-    table.length > 0 && el('div', {
-      className: 'tabla', role: 'group', style: cell ? `--celda: ${cell.width}px` : undefined,
-    }, table.filter((e) => e.tagName !== 'P')),
+    d.tablesAcross ? el('div', { className: 'tablas' }, tables.map((t) => el('div', {}, ...t))) : tables.flat(),
     commands);
   showFields(screen, fields);
   return screen;
+}
+
+// The widths of a table's columns: its cells' and single column heads'
+// width; where these differ, each column takes its own.
+function tableColumns(controls) {
+  const sized = controls.filter((c) => c.width && c.columnSpan === 1
+    && (c.kind === 'cell' || (c.kind === 'label' && c.row === 0)));
+  if (sized.length === 0) return undefined;
+  const widths = [];
+  for (const c of sized) widths[c.column] = Math.max(widths[c.column] ?? 0, c.width);
+  const given = widths.filter(Boolean);
+  if (given.every((w) => w === given[0])) return `--celda: ${given[0]}px`;
+  const columns = Array.from({ length: widths.length }, (_, i) => (widths[i] ? `${widths[i]}px` : 'max-content'));
+  return `grid-template-columns: ${columns.join(' ')}`;
 }
 
 // A solution screen: the report box (painted by report.mjs), its browsing
