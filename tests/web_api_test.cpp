@@ -144,6 +144,63 @@ TEST(WebApiTable, TheSelectorsClickShowsTheChosenRows) {
   vorel_unload(screen);
 }
 
+// The layout screens: selectors that shape their tables only through
+// Rediseñar Tabla, tables side by side or one below the other, heads over
+// several cells, and a method that may never end solved in slices.
+TEST(WebApiLayout, RediseñarTablaShapesTheRoutesAndBothBlocksOfDistances) {
+  const char* screen = "Distribucion_CargaDistancia";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Secuencia","toolTip":"","buddy":"","row":0,"column":1,)j"
+                                R"j("rowSpan":1,"columnSpan":5)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("tablesAcross":true)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("action":"edit","target":"rediseñar")j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 4));
+  ASSERT_TRUE(vorel_set_index(screen, "NumDistancias", 9));
+  // The choice alone shapes nothing.
+  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"j("C5(0)":{"text":"","visible":false})j"));
+  const std::string edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(4)":{"visible":true},"C5(0)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(5)":{"visible":false},"C6(0)":{"text":"","visible":false})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("Lbldistancias(1)":{"visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("D2(9)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("Distancias(10)":{"text":"","visible":false})j"));
+  vorel_unload(screen);
+}
+
+TEST(WebApiLayout, TheLowerTablesCaptionsShowWithItsFirstActivity) {
+  const char* screen = "Distribucion_Equlibrado";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Actividades Inmediatamente\nAnteriores","toolTip":"",)j"
+                                R"j("buddy":"","row":2,"column":0,"rowSpan":5,"columnSpan":1)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("RotuloTiempos2":{"visible":false})j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 7));
+  std::string edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":true},"RotuloAnteriores2":{"visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("TiempoOperacion(7)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("C1(5)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("C2(5)":{"text":"","visible":false})j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 6));
+  edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":false},"RotuloAnteriores2":{"visible":false})j"));
+  vorel_unload(screen);
+}
+
+TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
+  const char* screen = "Distribucion_Equlibrado";
+  vorel_load(screen);
+  std::string file = example("equilibrado/libro.txt");
+  vorel_open(screen, file.data(), static_cast<int>(file.size()));
+  // One pass places only the first column: the budget is spent.
+  EXPECT_THAT(std::string(vorel_solve(screen, 1)), HasSubstr(R"j("doesNotEnd":true)j"));
+  EXPECT_THAT(std::string(vorel_solve(screen, 4096)),
+              HasSubstr(quoted(golden("equilibrado/libro.report"))));
+  file = example("equilibrado/ciclo.txt");
+  vorel_open(screen, file.data(), static_cast<int>(file.size()));
+  for (double budget : {4096.0, 2097152.0, 0.0})
+    EXPECT_THAT(std::string(vorel_solve(screen, budget)), HasSubstr(R"j("doesNotEnd":true)j"));
+  vorel_unload(screen);
+}
+
 TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {
   EXPECT_EQ(web::Json().value(std::string("a\"b\\c\r\n\t\x01")).str(), R"("a\"b\\c\r\n\t\u0001")");
 }
