@@ -63,10 +63,12 @@ struct Control {
   std::string buddy;    // a label that names a text box: that box's name
   // The place on a grid of the screen: `group` 0 is the grid of fields
   // (labels in column 0, boxes in column 1), 1 the table below it (its row -1
-  // is a text above it); the title row, the intro and the report box lie
-  // outside both.
+  // is a text above it), 2 and on further tables after it (see
+  // Description::tablesAcross); the title row, the intro and the report box
+  // lie outside them all. A table's labels in row 0 are column heads.
   int group = 0;
   int row = 0, column = 0;
+  int rowSpan = 1, columnSpan = 1;  // the rows and columns of its grid it covers
   // A text box's width in pixels at scale 1; a report box's in average
   // character widths, its height in lines.
   int width = 0, height = 0;
@@ -87,6 +89,9 @@ struct Description {
   std::vector<Control> controls;  // in reading order
   std::vector<Command> chrome;    // the window's own commands in the header band
   std::vector<Command> commands;  // the screen's commands, or a menu's pictures
+  // Where an entry screen has several tables: side by side (else one below
+  // the other).
+  bool tablesAcross = false;
 };
 
 // The texts of the frame that every screen shares.

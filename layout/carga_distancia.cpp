@@ -7,6 +7,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "layout/indice.h"
+#include "layout/layout_forms.h"
 
 namespace vorel::facility {
 
@@ -237,8 +238,7 @@ void exchange(ProblemFile& file, CargaDistanciaFields& f) {
 }
 
 CatalogueEntry catalogueCargaDistancia() {
-  return catalogued<CargaDistanciaFields>("carga-distancia", "Distribucion_CargaDistancia", "",
-                                          exchange, check, solveAndReport);
+  return catalogued("carga-distancia", cargaDistanciaForm());
 }
 
 }  // namespace vorel::facility

@@ -6,6 +6,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "layout/indice.h"
+#include "layout/layout_forms.h"
 
 namespace vorel::facility {
 
@@ -225,9 +226,7 @@ void exchange(ProblemFile& file, EquilibradoFields& f) {
 }
 
 CatalogueEntry catalogueEquilibrado() {
-  return catalogued<EquilibradoFields>(
-      "equilibrado", "Distribucion_Equlibrado", "", exchange, check,
-      [](EquilibradoFields& f) { return solveAndReport(f, fileRunStepBudget()); });
+  return catalogued("equilibrado", equilibradoForm());
 }
 
 }  // namespace vorel::facility

@@ -293,6 +293,67 @@ TEST(WebApiTable, ElectraHeadsCarryTheirCaptionsAndColours) {
   ASSERT_TRUE(vorel_set_index(screen, "NumCriterios", -1));
   EXPECT_THAT(std::string(vorel_edit(screen, "RediseñarTabla")),
               HasSubstr(R"j({"messages":[{"text":"Seleccione el número de Criterios","focus":""}])j"));
+}
+
+// The layout screens: selectors that shape their tables only through
+// Rediseñar Tabla, tables side by side or one below the other, heads over
+// several cells, and a method that may never end solved in slices.
+TEST(WebApiLayout, RediseñarTablaShapesTheRoutesAndBothBlocksOfDistances) {
+  const char* screen = "Distribucion_CargaDistancia";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Secuencia","toolTip":"","buddy":"","row":0,"column":1,)j"
+                                R"j("rowSpan":1,"columnSpan":5)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("tablesAcross":true)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("action":"edit","target":"rediseñar")j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 4));
+  ASSERT_TRUE(vorel_set_index(screen, "NumDistancias", 9));
+  // The choice alone shapes nothing.
+  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"j("C5(0)":{"text":"","visible":false})j"));
+  const std::string edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(4)":{"visible":true},"C5(0)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(5)":{"visible":false},"C6(0)":{"text":"","visible":false})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("Lbldistancias(1)":{"visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("D2(9)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("Distancias(10)":{"text":"","visible":false})j"));
+  vorel_unload(screen);
+}
+
+TEST(WebApiLayout, TheLowerTablesCaptionsShowWithItsFirstActivity) {
+  const char* screen = "Distribucion_Equlibrado";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Actividades Inmediatamente\nAnteriores","toolTip":"",)j"
+                                R"j("buddy":"","row":2,"column":0,"rowSpan":5,"columnSpan":1)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("RotuloTiempos2":{"visible":false})j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 7));
+  std::string edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":true},"RotuloAnteriores2":{"visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("TiempoOperacion(7)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("C1(5)":{"text":"","visible":true})j"));
+  EXPECT_THAT(edited, HasSubstr(R"j("C2(5)":{"text":"","visible":false})j"));
+  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 6));
+  edited = vorel_edit(screen, "rediseñar");
+  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":false},"RotuloAnteriores2":{"visible":false})j"));
+  vorel_unload(screen);
+}
+
+TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
+  const char* screen = "Distribucion_Equlibrado";
+  vorel_load(screen);
+  // Activity 1 follows activity 2: the first pass places 2 to 5, the second 1.
+  for (int a = 0; a < 5; ++a)
+    ASSERT_TRUE(vorel_set(screen, ("TiempoOperacion(" + std::to_string(a) + ")").c_str(), "3"));
+  ASSERT_TRUE(vorel_set(screen, "C1(0)", "2"));
+  EXPECT_EQ(std::string(vorel_check(screen)), R"({"messages":[]})");
+  EXPECT_THAT(std::string(vorel_solve(screen, 1)), HasSubstr(R"j("doesNotEnd":true)j"));
+  EXPECT_THAT(std::string(vorel_solve(screen, 2)), HasSubstr(R"j("text":"Número de actividades")j"));
+  std::string file = example("equilibrado/libro.txt");
+  vorel_open(screen, file.data(), static_cast<int>(file.size()));
+  EXPECT_THAT(std::string(vorel_solve(screen, 4096)),
+              HasSubstr(quoted(golden("equilibrado/libro.report"))));
+  file = example("equilibrado/ciclo.txt");
+  vorel_open(screen, file.data(), static_cast<int>(file.size()));
+  for (double budget : {4096.0, 2097152.0, 0.0})
+    EXPECT_THAT(std::string(vorel_solve(screen, budget)), HasSubstr(R"j("doesNotEnd":true)j"));
   vorel_unload(screen);
 }
 

@@ -99,6 +99,8 @@ void write(Json& j, const ui::Control& c) {
       .field("buddy", c.buddy)
       .field("row", c.row)
       .field("column", c.column)
+      .field("rowSpan", c.rowSpan)
+      .field("columnSpan", c.columnSpan)
       .field("width", c.width)
       .field("height", c.height)
       .field("visible", c.visible)
@@ -141,6 +143,7 @@ void write(Json& j, const ui::Description& d) {
   writeList(j, "controls", d.controls);
   writeList(j, "chrome", d.chrome);
   writeList(j, "commands", d.commands);
+  j.field("tablesAcross", d.tablesAcross);
   j.close('}');
 }
 

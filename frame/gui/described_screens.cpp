@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QRadioButton>
 #include <map>
 #include <vector>
@@ -65,10 +66,14 @@ void nameChrome(QWidget& screen, const ui::Description& d) {
           button->setObjectName(text(own.name));
 }
 
-// A control of the table: the texts above it, column and row headings, cells.
+// A control of a table: the texts above it, column and row headings, cells,
+// each over the rows and columns of the table's grid it covers.
 void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
                 const ui::Control& c) {
   QGridLayout* grid = tableGrid(table);
+  const auto place = [&](QWidget* w, Qt::Alignment align = {}) {
+    grid->addWidget(w, c.row, c.column, c.rowSpan, c.columnSpan, align);
+  };
   if (c.row < 0) {
     auto* label = new QLabel(text(c.text), &screen);
     label->setObjectName(text(c.name));
@@ -81,12 +86,14 @@ void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
     if (c.width > 0) head->setFixedWidth(c.width);
-    grid->addWidget(head, 0, c.column);
+    place(head);
   } else if (c.kind == ui::ControlKind::Label) {
     QLabel* head = newHeading(table);
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
-    grid->addWidget(head, c.row, c.column);
+    // A heading over several rows stands at the top of them.
+    if (c.rowSpan > 1) head->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    place(head);
   } else if (c.kind == ui::ControlKind::Selector) {
     QStringList items;
     for (const std::string& item : c.items) items << text(item);
@@ -94,13 +101,13 @@ void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
     list->setObjectName(text(c.name));
     if (c.width > 0) list->setFixedWidth(c.width);
     list->setToolTip(text(c.toolTip));
-    grid->addWidget(list, c.row, c.column);
+    place(list);
   } else if (c.kind == ui::ControlKind::Cell) {
     QLineEdit* cell = newCell(table);
     cell->setObjectName(text(c.name));
     if (c.width > 0) cell->setFixedWidth(c.width);
     cell->setToolTip(text(c.toolTip));
-    grid->addWidget(cell, c.row, c.column);
+    place(cell, Qt::AlignHCenter);
   }
 }
 
@@ -112,12 +119,14 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
   QGridLayout* fields = screen.fieldGrid();
   std::map<std::string, QButtonGroup*> families;
   std::map<std::string, QLabel*> captions;  // labels naming a control drawn here
-  std::vector<QWidget*> above;
+  // By group: the table and the texts above it.
+  std::map<int, std::pair<QFrame*, std::vector<QWidget*>>> tables;
   int lastColumn = 1;
   for (const ui::Control& c : d.controls) {
-    if (c.group == 1) {
-      if (!drawn.table) drawn.table = tableFrame(screen);
-      addToTable(screen, drawn.table, above, c);
+    if (c.group >= 1) {
+      auto& [table, above] = tables[c.group];
+      if (!table) table = tableFrame(screen);
+      addToTable(screen, table, above, c);
       continue;
     }
     lastColumn = std::max(lastColumn, c.column);
@@ -168,14 +177,43 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
       fields->setColumnMinimumWidth(lastColumn + 1, 24);
       fields->setColumnStretch(lastColumn + 3, 1);
     }
-  if (drawn.table) {
-    QGridLayout* grid = tableGrid(drawn.table);
-    grid->setColumnStretch(grid->columnCount(), 1);
-    placeTable(body, fields, drawn.table);
-    for (QWidget* text : above) body->insertWidget(body->indexOf(drawn.table), text);
+  // The tables below the fields, in the order of their groups, each with the
+  // text above it: one below the other, or side by side.
+  auto* across = d.tablesAcross ? new QHBoxLayout() : nullptr;
+  int at = body->indexOf(fields) + 1;
+  if (across) {
+    across->setSpacing(14);
+    body->insertLayout(at++, across);
   }
+  for (auto& [group, table] : tables) {
+    auto& [frame, above] = table;
+    if (!drawn.table) drawn.table = frame;
+    drawn.tables.push_back(frame);
+    QGridLayout* grid = tableGrid(frame);
+    if (!across) grid->setColumnStretch(grid->columnCount(), 1);
+    auto* column = across ? new QVBoxLayout() : nullptr;
+    if (column) across->addLayout(column);
+    std::vector<QWidget*> parts = above;
+    parts.push_back(frame);
+    for (QWidget* w : parts) {
+      if (column)
+        column->addWidget(w, 0, Qt::AlignTop);
+      else
+        body->insertWidget(at++, w);
+    }
+    if (column) column->addStretch();
+  }
+  if (across) across->addStretch();
   nameChrome(screen, d);
   return drawn;
+}
+
+void showTables(const DescribedControls& drawn) {
+  for (QFrame* table : drawn.tables) {
+    const auto controls = table->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    table->setVisible(std::any_of(controls.begin(), controls.end(),
+                                  [](QWidget* w) { return !w->isHidden(); }));
+  }
 }
 
 void focusFirstCell(QWidget& screen, const ui::Description& d) {

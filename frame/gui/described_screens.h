@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QLineEdit>
 #include <memory>
+#include <vector>
 
 #include "frame/form.h"
 #include "frame/gui/model_screens.h"
@@ -22,9 +23,12 @@ namespace vorel::gui {
 // (Rediseñar). `runEdit` runs an edit by name, as a command.
 struct DescribedControls {
   QFrame* table = nullptr;  // null where the screen has none
+  std::vector<QFrame*> tables;  // every table, the first one first
 };
 DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui::Description& d,
                                 const std::function<void(const std::string& edit)>& runEdit);
+// Shows a table where one of its controls shows, hides it where none does.
+void showTables(const DescribedControls& drawn);
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
@@ -86,6 +90,7 @@ class DescribedEntry : public ModelEntry<Fields> {
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));
     }
+    showTables(drawn_);
     if (drawn_.table) fitToTable(*this);
   }
   const Form<Fields>& form() const { return form_; }

@@ -55,11 +55,16 @@ export function menuScreen(info, d, press) {
 // `showFields` puts the fields on it.
 export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const id = (name) => `${d.name}-${name}`;
-  // Every control at its place on its grid: the fields' grid, or the table's
-  // (whose row -1 is the text above it).
+  // Every control at its place on its grid: the fields' grid, or a table's
+  // (whose row -1 is the text above it), over the rows and columns it covers.
+  const span = (n) => (n > 1 ? ` / span ${n}` : '');
   const place = (c) => (c.row >= 0 && c !== d.titleLabel && c !== d.titleField
-    ? `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}` : undefined);
-  const at = (c) => (c.group === 1 ? { 'data-row': c.row, 'data-column': c.column } : {});
+    ? `grid-row: ${c.row + 1}${span(c.rowSpan)}; grid-column: ${c.column + 1}${span(c.columnSpan)}${
+      c.rowSpan > 1 ? '; align-self: start' : ''}`
+    : undefined);
+  const at = (c) => (c.group >= 1
+    ? { 'data-row': c.row, 'data-column': c.column, 'data-span': c.columnSpan > 1 ? c.columnSpan : undefined }
+    : {});
   const draw = (c) => {
     switch (c.kind) {
       case 'textbox':
@@ -95,8 +100,14 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
     }
   };
   const group = (n) => d.controls.filter((c) => c.group === n).map(draw);
-  const table = group(1);
-  const cell = d.controls.find((c) => c.kind === 'cell' && c.width);
+  // Each table, the text above it first.
+  const groups = [...new Set(d.controls.map((c) => c.group).filter((g) => g >= 1))].sort((a, b) => a - b);
+  const tables = groups.map((g) => {
+    const drawn = group(g);
+    return [drawn.filter((e) => e.tagName === 'P'),
+      el('div', { className: 'tabla', role: 'group', ...tableColumns(d.controls.filter((c) => c.group === g)) },
+        drawn.filter((e) => e.tagName !== 'P'))];
+  });
   const title = el('div', { className: 'titulo' }, draw(d.titleLabel), draw(d.titleField));
   // The commands that edit the fields (Rediseñar) stand beside them.
   const lastColumn = Math.max(1, ...d.controls.filter((c) => c.group === 0).map((c) => c.column));
@@ -109,13 +120,24 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const screen = windowFrame(ownChrome(info, d), d.heading, press,
     d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
     el('div', { className: 'campos' }, group(0), edits),
-    table.filter((e) => e.tagName === 'P'),
-    table.length > 0 && el('div', {
-      className: 'tabla', role: 'group', style: cell ? `--celda: ${cell.width}px` : undefined,
-    }, table.filter((e) => e.tagName !== 'P')),
+    d.tablesAcross ? el('div', { className: 'tablas' }, tables.map((t) => el('div', {}, ...t))) : tables.flat(),
     commands);
   showFields(screen, fields);
   return screen;
+}
+
+// The widths of a table's columns: its cells' and single column heads'
+// width; where these differ, each column takes its own.
+function tableColumns(controls) {
+  const sized = controls.filter((c) => c.width && c.columnSpan === 1
+    && (c.kind === 'cell' || (c.kind === 'label' && c.row === 0)));
+  if (sized.length === 0) return {};
+  const widths = [];
+  for (const c of sized) widths[c.column] = Math.max(widths[c.column] ?? 0, c.width);
+  const given = widths.filter(Boolean);
+  if (given.every((w) => w === given[0])) return { style: `--celda: ${given[0]}px` };
+  // Columns of different widths: closeUpColumns sets them for the columns shown.
+  return { 'data-widths': JSON.stringify(widths) };
 }
 
 // A solution screen: the report box (painted by report.mjs), its browsing
@@ -182,15 +204,34 @@ export function showFields(screenElement, fields) {
 }
 
 // A table's columns with nothing shown take no room: the shown ones stand
-// side by side, each at its place among them.
+// side by side, each control over the shown columns it covers.
 function closeUpColumns(table) {
   const placed = [...table.children].filter((e) => e.dataset.column !== undefined);
-  const shown = new Set(placed.filter((e) => !e.hidden && !e.closest('[hidden]'))
-    .map((e) => Number(e.dataset.column)));
-  const order = [...shown].sort((a, b) => a - b);
+  const covers = (e) => {
+    const from = Number(e.dataset.column);
+    return { from, to: from + Number(e.dataset.span ?? 1) - 1 };
+  };
+  const isShown = (e) => !e.hidden && !e.closest('[hidden]');
+  const shown = new Set();
+  for (const e of placed.filter(isShown)) {
+    const { from, to } = covers(e);
+    if (from === to) shown.add(from);
+  }
+  for (const e of placed.filter(isShown)) {  // a heading over columns of nothing shown keeps one
+    const { from, to } = covers(e);
+    if (![...shown].some((c) => c >= from && c <= to)) shown.add(from);
+  }
+  const order = [...shown].sort((x, y) => x - y);
   for (const e of placed) {
-    const at = order.indexOf(Number(e.dataset.column));
-    if (at >= 0) e.style.gridColumn = String(at + 1);
+    const { from, to } = covers(e);
+    const first = order.findIndex((c) => c >= from && c <= to);
+    if (first < 0) continue;
+    const count = order.filter((c) => c >= from && c <= to).length;
+    e.style.gridColumn = count > 1 ? `${first + 1} / span ${count}` : String(first + 1);
+  }
+  if (table.dataset.widths) {
+    const widths = JSON.parse(table.dataset.widths);
+    table.style.gridTemplateColumns = order.map((c) => (widths[c] ? `${widths[c]}px` : 'max-content')).join(' ');
   }
 }
 
