@@ -33,6 +33,8 @@ class DescribedChartSolutionBase : public DescribedSolutionBase {
 template <class Fields>
 class DescribedChartSolution : public DescribedChartSolutionBase {
  public:
+  explicit DescribedChartSolution(const Form<Fields>& form)
+      : DescribedChartSolution(form, form.solution) {}
   DescribedChartSolution(const Form<Fields>& form, const ui::Description& description)
       : DescribedChartSolutionBase(description), form_(form) {}
 

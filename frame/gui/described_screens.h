@@ -146,6 +146,7 @@ class DescribedSolutionBase : public SolutionScreen {
 template <class Fields>
 class DescribedSolution : public DescribedSolutionBase {
  public:
+  explicit DescribedSolution(const Form<Fields>& form) : DescribedSolution(form, form.solution) {}
   // `description` is the form's solution or one of its others.
   DescribedSolution(const Form<Fields>& form, const ui::Description& description)
       : DescribedSolutionBase(description), form_(form) {}
