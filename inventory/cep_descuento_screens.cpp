@@ -36,8 +36,6 @@ DescuentoEntry::DescuentoEntry() : PedidoEntry(descuentoForm()) {
     if (c.row < 0) {
       above = new QLabel(text(c.text), this);
       above->setObjectName(text(c.name));
-      above->setWordWrap(true);
-      above->setMaximumWidth(560);
       above->setStyleSheet("font-size: 10pt; color: #2D3748;");
     } else if (c.kind == ui::ControlKind::Label && c.row == 0) {
       QLabel* head = gui::newColumnHead(frame);
@@ -61,7 +59,7 @@ DescuentoEntry::DescuentoEntry() : PedidoEntry(descuentoForm()) {
   fieldGrid()->addWidget(selector, top, 1, Qt::AlignLeft);
   grid->setColumnStretch(grid->columnCount(), 1);
   gui::placeTable(body(), fieldGrid(), frame);
-  body()->insertWidget(body()->indexOf(frame), above);
+  body()->insertLayout(body()->indexOf(frame), gui::paragraph(above, 560));
   setFields(DescuentoFields{});
 }
 

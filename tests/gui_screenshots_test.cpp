@@ -46,6 +46,7 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
     save(s, dir, info.name);
     std::set<std::string> pictured;  // every solution screen the examples reach
     for (const QString& file : examples.entryList(QDir::Files, QDir::Name)) {
+      if (neverEnds(model->id, file)) continue;  // it would solve until its window closed
       platform.openAnswers.push_back(examples.filePath(file));
       press(info.name, "abrir");
       platform.messages.clear();
