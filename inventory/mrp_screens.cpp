@@ -347,8 +347,11 @@ void MrpSolution::layOut(const MrpFields& f) {
   Picture1_->move(0, 0);
   VScroll1_->setVisible(scroll.visible);
   const int extent = kTop + kBlock * std::max(articles_, 1);
+  // Without a scroll bar (fewer than four articles) the window shows the
+  // records and no blank below them.
   viewport_->setFixedHeight(scroll.maximum ? extent - *scroll.maximum * 20 / kTwipsPerPixel
-                                           : kFormViewport);
+                            : scroll.visible ? kFormViewport
+                                             : std::min(kFormViewport, extent));
   for (int b = 4; b <= 10; ++b) images_[at(b - 4)]->setVisible(b <= articles_);
   for (int k = 0; k < kMrpArticles; ++k) {
     const bool row = k < articles_;

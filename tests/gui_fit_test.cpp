@@ -334,6 +334,29 @@ TEST_F(ScreenFit, WindowsShrinkToASmallerProblemAfterNuevoAndAbrir) {
   }
 }
 
+// A part of the form shown or hidden by a choice, with no Rediseñar: the
+// window takes it in, and gives its room back.
+TEST_F(ScreenFit, WindowsFollowAPartShownOrHidden) {
+  const std::string entry = "Select_C_Totales";
+  gui::Screen* s = screens().show(entry);
+  settle();
+  const QSize two = s->size();
+  auto* body = s->findChild<QScrollArea*>("cuerpo");
+  control<QAbstractButton>(entry, "Option2")->click();  // three options
+  settle();
+  ASSERT_TRUE(shown(entry, "txtCF3"));
+  EXPECT_GT(s->height(), two.height());
+  EXPECT_EQ(body->verticalScrollBar()->maximum(), 0) << "a window with room to spare scrolls";
+  EXPECT_TRUE(gui::screenArea(*s).contains(s->frameGeometry()));
+  control<QAbstractButton>(entry, "Option1")->click();
+  settle();
+  EXPECT_EQ(s->size(), two);
+  openFile(entry, examplePath("costes-totales", "tres-opciones.txt"));
+  settle();
+  EXPECT_GT(s->height(), two.height());
+  EXPECT_EQ(body->verticalScrollBar()->maximum(), 0);
+}
+
 // Drags a window by its header band, as the student does.
 void drag(gui::Screen& s, QPoint by) {
   const QPoint from(s.width() / 2, 12);

@@ -41,7 +41,27 @@ class BodyArea : public QScrollArea {
     return fitted(widget() ? widget()->minimumSizeHint() : QSize());
   }
 
+ protected:
+  // Whatever changes the size of what the body holds (a part shown or hidden,
+  // a table reshaped, a longer text) fits the window to it again, once the
+  // layouts have done their work, however the change came about.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && !refitting_) {
+      refitting_ = true;
+      QMetaObject::invokeMethod(
+          this,
+          [this] {
+            refitting_ = false;
+            if (QWidget* w = window(); w->isVisible()) fitWindow(*w);
+          },
+          Qt::QueuedConnection);
+    }
+    return QScrollArea::eventFilter(watched, event);
+  }
+
  private:
+  bool refitting_ = false;
+
   // `content` bounded to the room below the band, with room for a scroll bar
   // across the other way when one is needed.
   QSize fitted(QSize content) const {
@@ -92,7 +112,10 @@ QHBoxLayout* paragraph(QLabel* label, int width) {
   label->setMaximumWidth(width);
   auto* row = new QHBoxLayout();
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(label);
+  // The text takes the room first, up to its width, and starts at the left
+  // edge of what stands below it; what is left over goes after it.
+  row->addWidget(label, 1);
+  row->addStretch(0);
   return row;
 }
 
@@ -248,11 +271,9 @@ Screen* Screens::load(const std::string& name) {
 }
 
 Screen* Screens::show(const std::string& name) {
-  const bool firstShow = !loaded(name);
   Screen* screen = load(name);
   if (!screen) return nullptr;
-  if (firstShow) fitWindow(*screen);
-  place(*screen);
+  fitWindow(*screen);  // to what it holds now, which may have changed while it was hidden
   screen->show();
   screen->raise();
   screen->activateWindow();
