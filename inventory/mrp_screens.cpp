@@ -265,6 +265,12 @@ MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
   Picture1_ = new QWidget(viewport_);
   Picture1_->setObjectName("Picture1");
   Picture1_->setGeometry(0, 0, viewport_->width(), kTop + kBlock * kMrpArticles);
+  // The records' rows stand kRow apart: their cells take a thin border and no
+  // inner padding, so a row holds a whole line of figures.
+  Picture1_->setStyleSheet(
+      "QLineEdit { border: 1px solid #A0AEC0; border-radius: 2px; padding: 0px 2px;"
+      " background: #FFFFFF; }"
+      "QLineEdit:focus { border: 1px solid #1E5AD6; }");
   VScroll1_ = new QScrollBar(Qt::Vertical, this);
   VScroll1_->setObjectName("VScroll1");
   VScroll1_->setMaximum(kFormMaximum);
@@ -341,8 +347,11 @@ void MrpSolution::layOut(const MrpFields& f) {
   Picture1_->move(0, 0);
   VScroll1_->setVisible(scroll.visible);
   const int extent = kTop + kBlock * std::max(articles_, 1);
+  // Without a scroll bar (fewer than four articles) the window shows the
+  // records and no blank below them.
   viewport_->setFixedHeight(scroll.maximum ? extent - *scroll.maximum * 20 / kTwipsPerPixel
-                                           : kFormViewport);
+                            : scroll.visible ? kFormViewport
+                                             : std::min(kFormViewport, extent));
   for (int b = 4; b <= 10; ++b) images_[at(b - 4)]->setVisible(b <= articles_);
   for (int k = 0; k < kMrpArticles; ++k) {
     const bool row = k < articles_;

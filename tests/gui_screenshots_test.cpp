@@ -50,7 +50,11 @@ TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
     const QDir examples(QString(VOREL_SOURCE_DIR) + "/examples/" + QString::fromStdString(model->id));
     save(s, dir, info.name);
     std::set<std::string> pictured;  // every solution screen the examples reach
-    for (const QString& file : examples.entryList(QDir::Files, QDir::Name)) {
+    // The book's example first: the others are mostly the edge cases.
+    QStringList files = examples.entryList(QDir::Files, QDir::Name);
+    if (files.removeOne("libro.txt")) files.prepend("libro.txt");
+    for (const QString& file : files) {
+      if (neverEnds(model->id, file)) continue;  // it would solve until its window closed
       platform.openAnswers.push_back(examples.filePath(file));
       press(info.name, "abrir");
       platform.messages.clear();

@@ -88,6 +88,9 @@ protected:
 // The example problems of a model and their golden texts (tests/golden_test.cpp).
 QString examplePath(const std::string& id, const QString& file);
 std::string golden(const std::string& id, const QString& file, const char* kind);
+// Whether the model's method never ends on an example: its window would solve
+// until it is closed.
+bool neverEnds(const std::string& id, const QString& file);
 
 // Runs the event loop for `ms` milliseconds.
 void wait(int ms);

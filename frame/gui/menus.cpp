@@ -98,10 +98,8 @@ MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
   } else {
     auto* intro = new QLabel(text(d.intro), this);
     intro->setObjectName("Label1");
-    intro->setWordWrap(true);
     intro->setStyleSheet("font-size: 10.5pt; color: #2D3748;");
-    intro->setMaximumWidth(620);
-    body()->addWidget(intro);
+    body()->addLayout(paragraph(intro, 620));
   }
   auto* grid = new QGridLayout();
   grid->setHorizontalSpacing(18);

@@ -43,9 +43,7 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
     auto* text = styled(new QLabel(QString::fromStdString(d.intro), this),
                         "font-size: 10pt; color: #2D3748;");
     text->setObjectName("Label1");
-    text->setWordWrap(true);
-    text->setMaximumWidth(640);
-    body()->addWidget(text);
+    body()->addLayout(paragraph(text, 640));
   }
   auto* titleRow = new QHBoxLayout();
   titleRow->addWidget(styled(new QLabel(QString::fromStdString(d.titleLabel.text), this),

@@ -41,7 +41,27 @@ class BodyArea : public QScrollArea {
     return fitted(widget() ? widget()->minimumSizeHint() : QSize());
   }
 
+ protected:
+  // Whatever changes the size of what the body holds (a part shown or hidden,
+  // a table reshaped, a longer text) fits the window to it again, once the
+  // layouts have done their work, however the change came about.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && !refitting_) {
+      refitting_ = true;
+      QMetaObject::invokeMethod(
+          this,
+          [this] {
+            refitting_ = false;
+            if (QWidget* w = window(); w->isVisible()) fitWindow(*w);
+          },
+          Qt::QueuedConnection);
+    }
+    return QScrollArea::eventFilter(watched, event);
+  }
+
  private:
+  bool refitting_ = false;
+
   // `content` bounded to the room below the band, with room for a scroll bar
   // across the other way when one is needed.
   QSize fitted(QSize content) const {
@@ -64,12 +84,19 @@ QRect screenArea(const QWidget& widget) {
 }
 
 void fitWindow(QWidget& window) {
-  // The layouts inside the body (tables shown or hidden just now) first.
+  // The layouts inside the body (tables shown or hidden just now) first. The
+  // body's content sits in a scroll area, whose own size hint no layout asks
+  // again on its own: it is marked changed, so the window's layout reads the
+  // content's new size, smaller as well as larger.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  if (auto* body = window.findChild<QScrollArea*>(QStringLiteral("cuerpo"))) body->updateGeometry();
   if (auto* layout = window.layout()) layout->activate();
   const QRect area = screenArea(window);
   window.resize(window.sizeHint().expandedTo(window.minimumSize()).boundedTo(area.size()));
-  keepOnScreen(window);
+  if (auto* screen = qobject_cast<Screen*>(&window))
+    Screens::instance().place(*screen);
+  else
+    keepOnScreen(window);
 }
 
 void keepOnScreen(QWidget& window) {
@@ -78,6 +105,18 @@ void keepOnScreen(QWidget& window) {
   at.setX(std::max(area.left(), std::min(at.x(), area.right() + 1 - window.width())));
   at.setY(std::max(area.top(), std::min(at.y(), area.bottom() + 1 - window.height())));
   if (at != window.pos()) window.move(at);
+}
+
+QHBoxLayout* paragraph(QLabel* label, int width) {
+  label->setWordWrap(true);
+  label->setMaximumWidth(width);
+  auto* row = new QHBoxLayout();
+  row->setContentsMargins(0, 0, 0, 0);
+  // The text takes the room first, up to its width, and starts at the left
+  // edge of what stands below it; what is left over goes after it.
+  row->addWidget(label, 1);
+  row->addStretch(0);
+  return row;
 }
 
 Screen::Screen(const std::string& name)
@@ -196,7 +235,9 @@ void Screen::mousePressEvent(QMouseEvent* event) {
 }
 
 void Screen::mouseMoveEvent(QMouseEvent* event) {
-  if (event->buttons() & Qt::LeftButton) move(event->globalPosition().toPoint() - dragFrom_);
+  if (!(event->buttons() & Qt::LeftButton)) return;
+  move(event->globalPosition().toPoint() - dragFrom_);
+  Screens::instance().moved(*this);
 }
 
 void Screen::paintEvent(QPaintEvent*) {
@@ -230,21 +271,9 @@ Screen* Screens::load(const std::string& name) {
 }
 
 Screen* Screens::show(const std::string& name) {
-  const bool firstShow = !loaded(name);
   Screen* screen = load(name);
   if (!screen) return nullptr;
-  if (firstShow) fitWindow(*screen);
-  // The next window opens where the last one stood (the first in the middle
-  // of the screen), so going from an entry to its solution and back, or
-  // through the menus, keeps the place the student is looking at.
-  if (Screen* last = loaded(current_); last && last != screen) {
-    screen->move(last->pos());
-  } else if (firstShow) {
-    const QRect area = screenArea(*screen);
-    screen->move(area.center() - QPoint(screen->width() / 2, screen->height() / 2));
-  }
-  keepOnScreen(*screen);
-  current_ = name;
+  fitWindow(*screen);  // to what it holds now, which may have changed while it was hidden
   screen->show();
   screen->raise();
   screen->activateWindow();
@@ -259,6 +288,17 @@ Screen* Screens::show(const std::string& name) {
   nameControls(screen);
   return screen;
 }
+
+void Screens::place(Screen& screen) {
+  if (!place_) {
+    const QRect area = screenArea(screen);
+    place_ = area.center() - QPoint(screen.width() / 2, screen.height() / 2);
+  }
+  screen.move(*place_);
+  keepOnScreen(screen);
+}
+
+void Screens::moved(const Screen& screen) { place_ = screen.pos(); }
 
 void Screens::hide(const std::string& name) {
   if (Screen* s = loaded(name)) s->hide();
@@ -302,7 +342,7 @@ void Screens::cerrar(Screen& from) {
 void Screens::reset() {
   for (auto& [name, screen] : loaded_) delete screen;
   loaded_.clear();
-  current_.clear();
+  place_.reset();
 }
 
 }  // namespace vorel::gui

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "frame/navigation.h"
@@ -23,10 +24,15 @@ class PictureButton;
 // screen (without panels and task bars), in the program's pixels.
 QRect screenArea(const QWidget& widget);
 // Sizes a window to what it holds, never beyond its screen's area, and keeps
-// it on that area.
+// it on that area (a screen at the program's place, see Screens::place).
 void fitWindow(QWidget& window);
 // Moves a window back onto its screen's area where it stands partly off it.
 void keepOnScreen(QWidget& window);
+// A word-wrapped text at most `width` wide, in a row of its own. A column asks
+// a label its height at the column's width, which for a label held narrower
+// is too few lines, and the controls below lose the difference; a row asks it
+// at the width the label gets.
+QHBoxLayout* paragraph(QLabel* label, int width);
 
 class Screen : public QWidget {
   Q_OBJECT
@@ -100,6 +106,16 @@ class Screens {
   void gohome(Screen& from);
   void cerrar(Screen& from);
 
+  // Where the program's windows stand: the place of the first, in the middle of
+  // the screen, until the student drags one elsewhere. Every window shown, and
+  // every window that changes size, goes there, moved only as far as it must
+  // be to stay on the screen; so going from an entry to its solution and back,
+  // or through the menus, keeps the place the student is looking at, and a
+  // window that had to move up for a tall solution comes back down after it.
+  void place(Screen& screen);
+  // A window dragged to where it now stands.
+  void moved(const Screen& screen);
+
   // Unloads every screen (tests: a fresh process).
   void reset();
   int loadedCount() const { return static_cast<int>(loaded_.size()); }
@@ -109,7 +125,7 @@ class Screens {
  private:
   std::map<std::string, ScreenFactory> factories_;
   std::map<std::string, Screen*> loaded_;
-  std::string current_;  // the screen shown last
+  std::optional<QPoint> place_;
 };
 
 // Registers every screen of the program (menus, start, models).
