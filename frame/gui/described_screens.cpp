@@ -77,8 +77,6 @@ void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
   if (c.row < 0) {
     auto* label = new QLabel(text(c.text), &screen);
     label->setObjectName(text(c.name));
-    label->setWordWrap(true);
-    label->setMaximumWidth(560);
     label->setStyleSheet("font-size: 10pt; color: #2D3748;");
     above.push_back(label);
   } else if (c.kind == ui::ControlKind::Label && c.row == 0) {
@@ -193,14 +191,18 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
     if (!across) grid->setColumnStretch(grid->columnCount(), 1);
     auto* column = across ? new QVBoxLayout() : nullptr;
     if (column) across->addLayout(column);
-    std::vector<QWidget*> parts = above;
-    parts.push_back(frame);
-    for (QWidget* w : parts) {
+    // Each text above the table wraps at its width and asks its height there.
+    for (QWidget* w : above) {
+      QHBoxLayout* text = paragraph(static_cast<QLabel*>(w), 560);
       if (column)
-        column->addWidget(w, 0, Qt::AlignTop);
+        column->addLayout(text);
       else
-        body->insertWidget(at++, w);
+        body->insertLayout(at++, text);
     }
+    if (column)
+      column->addWidget(frame, 0, Qt::AlignTop);
+    else
+      body->insertWidget(at++, frame);
     if (column) column->addStretch();
   }
   if (across) across->addStretch();
