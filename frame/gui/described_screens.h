@@ -25,6 +25,9 @@ struct DescribedControls {
 };
 DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui::Description& d,
                                 const std::function<void(const std::string& edit)>& runEdit);
+// Gives the window's commands the names the description gives them, where a
+// screen knows one by another name ("Image5" for volver).
+void nameChrome(QWidget& screen, const ui::Description& d);
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
@@ -35,13 +38,16 @@ class DescribedEntry : public ModelEntry<Fields> {
   explicit DescribedEntry(const Form<Fields>& form)
       : ModelEntry<Fields>(form.entry), form_(form) {
     drawn_ = drawDescribed(*this, this->body(), form.entry, [this](const std::string& name) { runEdit(name); });
+    nameChrome(*this, form.entry);
     setFields(Fields{});
   }
 
   // Each bound control by its name: a text box's text, a selector's list
   // index, an option's or check box's tick, a control's visibility.
+  // What no control shows (what a command keeps for the report) stays as the
+  // last edit left it, as in the browser's live fields.
   Fields fields() const override {
-    Fields f;
+    Fields f = kept_;
     for (const Binding<Fields>& b : form_.bindings) {
       QWidget* w = control(b.control);
       if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
@@ -55,6 +61,7 @@ class DescribedEntry : public ModelEntry<Fields> {
     return f;
   }
   void setFields(const Fields& given) override {
+    kept_ = given;
     Fields f = given;
     for (const Binding<Fields>& b : form_.bindings) {
       QWidget* w = control(b.control);
@@ -73,13 +80,26 @@ class DescribedEntry : public ModelEntry<Fields> {
   const Form<Fields>& form() const { return form_; }
 
  protected:
+  // The form's own model functions, which may differ from a file run's.
+  using ModelEntry<Fields>::nuevo;
+  void exchange(ProblemFile& file, Fields& f) override { form_.model.exchange(file, f); }
+  Messages check(const Fields& f) override { return form_.model.check(f); }
+  void nuevo(Fields& f) override { form_.model.nuevo(f); }
+
   // Runs one of the form's edits of the fields by name (a selector's click,
-  // Rediseñar); an edit command then leaves the focus in the table.
+  // Rediseñar); an edit command then leaves the focus in the table. What the
+  // edit did stays even where it tells a message (a command that refuses a
+  // game still hides its panels), as in the browser.
   void runEdit(const std::string& name) {
     for (auto& [editName, run] : form_.edits)
-      if (editName == name && this->edit([run = run](Fields& f) { return run(f); }))
+      if (editName == name) {
+        Fields f = fields();
+        const Messages messages = run(f);
+        setFields(f);
+        if (!this->tell(messages)) return;
         for (const ui::Command& c : form_.entry.commands)
           if (c.action == ui::Action::Edit && c.target == name) focusFirstCell(*this, form_.entry);
+      }
   }
   QWidget* control(const std::string& name) const {
     return this->template findChild<QWidget*>(QString::fromStdString(name));
@@ -88,6 +108,7 @@ class DescribedEntry : public ModelEntry<Fields> {
  private:
   const Form<Fields>& form_;
   DescribedControls drawn_;
+  Fields kept_;
 };
 
 // The solution screen: each activation solves the entry screen's fields

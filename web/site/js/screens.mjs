@@ -81,6 +81,12 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
             type: c.kind === 'option' ? 'radio' : 'checkbox', id: id(c.name), name: c.name,
             onchange: (e) => ticked(c.name, e.target.checked, c.edit),
           }), c.text);
+      case 'report':  // a panel a command prints lines on, its text bound to the fields
+        return el('pre', {
+          className: 'panel', name: c.name,
+          style: `${place(c)}; order: ${c.row + 1}; min-width: ${c.width}ch; min-height: ${c.height * 1.15}em`,
+          hidden: !c.visible,
+        });
       default:
         if (c.buddy) {
           return el('label', { htmlFor: id(c.buddy), name: c.name || undefined, textContent: c.text, style: place(c) });
@@ -99,7 +105,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const lastColumn = Math.max(1, ...d.controls.filter((c) => c.group === 0).map((c) => c.column));
   const edits = d.commands.filter((c) => c.action === 'edit').map((c, i) => el('button', {
     type: 'button', className: 'editar', name: c.name, title: c.toolTip || undefined, textContent: c.caption,
-    style: `grid-row: ${i + 1} / span 2; grid-column: ${lastColumn + 2}`, onclick: () => press(c),
+    style: `grid-row: ${2 * i + 1} / span 2; grid-column: ${lastColumn + 2}; order: ${2 * i}`, onclick: () => press(c),
   }));
   const commands = el('div', { className: 'ordenes' },
     d.commands.filter((c) => c.action !== 'edit').map((c) => commandPicture(c, press, { captioned: true })));
