@@ -36,6 +36,9 @@ struct Binding {
   std::function<bool*(Fields&)> visible = {};
   std::function<int*(Fields&)> index = {};
   std::function<bool*(Fields&)> checked = {};
+  // A cell set apart by what a command found in it (an equilibrium); it
+  // reads it, never changes it.
+  std::function<bool*(Fields&)> marked = {};
 };
 
 // A text box that shows a member.
@@ -105,6 +108,7 @@ struct ControlState {
   const bool* visible;
   const int* index;
   const bool* checked;
+  const bool* marked;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -151,7 +155,7 @@ class FieldsForm : public EntryForm {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
-             b.checked ? b.checked(fields_) : nullptr});
+             b.checked ? b.checked(fields_) : nullptr, b.marked ? b.marked(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);

@@ -18,11 +18,15 @@ ui::Control control(ui::ControlKind kind, std::string name, std::string text, in
   return c;
 }
 
-// The panels show what the commands printed on them.
+// The panels show what the commands printed on them, and the cells that the
+// shown panel of EstPuras lists stand apart; nuevo, which hides the panel,
+// sets every cell back.
 template <class P>
 void pintar(P& p) {
   p.SPuras = renderText(p.estado.EquilibriosPuras.lineas);
   p.SMixtas = renderText(p.estado.EquilibriosMixtas.lineas);
+  for (std::size_t c = 0; c < p.estado.Puro.size(); ++c)
+    p.Resaltada[c] = p.estado.EquilibriosPuras.visible && p.estado.Puro[c] == 1;
 }
 
 template <class P>
@@ -84,7 +88,8 @@ Form<P> construir(const std::string& screen, const std::string& heading, const s
       ui::Control cell = control(ui::ControlKind::Cell, name, "", 1, row, int(j) + 1);
       cell.width = 72;
       controls.push_back(cell);
-      form.bindings.push_back({name, [c, j](P& p) { return &(*p.campos.celdas()[c])[j]; }});
+      form.bindings.push_back({name, [c, j](P& p) { return &(*p.campos.celdas()[c])[j]; }, {}, {}, {},
+                               [c](P& p) { return &p.Resaltada[c]; }});
     }
   }
   // Each command beside the panel it prints on; a panel shows once its

@@ -3,6 +3,7 @@
 // with the panels they print on, and their reports.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "frame/form.h"
@@ -12,12 +13,14 @@
 namespace vorel::games {
 
 // An entry screen of a game: its fields, what its two commands keep for the
-// report, and the texts of the panels SPuras and SMixtas as they show them.
+// report, the texts of the panels SPuras and SMixtas as they show them, and
+// the cells that the shown panel of EstPuras lists as equilibria.
 template <class Fields, class Estado>
 struct PantallaEquilibrios {
   Fields campos;
   Estado estado;
   std::string SPuras, SMixtas;
+  std::array<bool, 8> Resaltada{};
 };
 using Juegos2Pantalla = PantallaEquilibrios<Juegos2Fields, Juegos2Estado>;
 using Juegos3Pantalla = PantallaEquilibrios<Juegos3Fields, Juegos3Estado>;

@@ -1,6 +1,7 @@
 // The screens of games of two and three players driven offscreen: the two
-// commands fill their panels, Resolver needs one of them first, and nuevo
-// blanks the screen and hides the panels.
+// commands fill their panels and mark the cells of the pure equilibria,
+// Resolver needs one of them first, and nuevo blanks the screen and hides the
+// panels.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -17,6 +18,7 @@ class JuegosJugadoresScreens : public ScreenTest {
   std::string panel(const char* name) {
     return control<QLabel>(kEntry, name)->text().toStdString();
   }
+  QString colour(const char* cell) { return control<QLineEdit>(kEntry, cell)->styleSheet(); }
 };
 
 TEST_F(JuegosJugadoresScreens, CommandsFillTheirPanelsBeforeResolver) {
@@ -36,6 +38,8 @@ TEST_F(JuegosJugadoresScreens, CommandsFillTheirPanelsBeforeResolver) {
   EXPECT_TRUE(shown(kEntry, "SPuras"));
   EXPECT_FALSE(shown(kEntry, "SMixtas"));
   EXPECT_EQ(panel("SPuras"), "Equilibrio:   (2,1)\nEquilibrio:   (1,2)\n");
+  EXPECT_EQ(colour("E1(1)"), colour("E4(0)"));
+  EXPECT_NE(colour("E1(1)"), colour("E2(0)"));
   press(kEntry, "EstMixtas");
   EXPECT_NE(panel("SMixtas").find("J1 juega:\nDecisión1 con p =  .6666667\n"), std::string::npos);
   press(kEntry, "Resolver");
@@ -47,6 +51,7 @@ TEST_F(JuegosJugadoresScreens, CommandsFillTheirPanelsBeforeResolver) {
   EXPECT_EQ(text(kEntry, "Titulo1"), "");
   EXPECT_EQ(text(kEntry, "E4(1)"), "");
   EXPECT_FALSE(shown(kEntry, "SPuras") || shown(kEntry, "SMixtas"));
+  EXPECT_EQ(colour("E1(1)"), colour("E2(0)"));
   press(kEntry, "Resolver");  // what was computed stays: the report of a blank table
   EXPECT_TRUE(visible("Juegos_2_Solucion"));
 }

@@ -17,14 +17,14 @@ namespace {
 
 struct Shown {
   std::string text;
-  bool visible = false;
+  bool visible = false, marked = false;
 };
 
 // What each bound control of the form shows, by name.
 std::map<std::string, Shown> shown(EntryForm& form) {
   std::map<std::string, Shown> all;
   form.each([&all](const ControlState& c) {
-    all[c.control] = {c.text ? *c.text : "", c.visible && *c.visible};
+    all[c.control] = {c.text ? *c.text : "", c.visible && *c.visible, c.marked && *c.marked};
   });
   return all;
 }
@@ -70,6 +70,9 @@ TEST(JuegosForms, PanelsShowWhatTheirCommandPrintedAndNuevoHidesThem) {
   EXPECT_TRUE(shown(*form)["SPuras"].visible);
   EXPECT_FALSE(shown(*form)["SMixtas"].visible);
   EXPECT_EQ(shown(*form)["SPuras"].text, "Equilibrio:   (2,1)\nEquilibrio:   (1,2)\n");
+  // Both payoffs of each equilibrium stand apart, no other cell.
+  for (const char* cell : {"E1(0)", "E1(1)", "E4(0)", "E4(1)"}) EXPECT_TRUE(shown(*form)[cell].marked) << cell;
+  for (const char* cell : {"E2(0)", "E2(1)", "E3(0)", "E3(1)"}) EXPECT_FALSE(shown(*form)[cell].marked) << cell;
   edit(*form, "EstMixtas", messages);
   EXPECT_EQ(shown(*form)["SMixtas"].text.rfind("J1 juega:\nDecisión1 con p =  .6666667\n", 0), 0u)
       << shown(*form)["SMixtas"].text;
@@ -80,6 +83,7 @@ TEST(JuegosForms, PanelsShowWhatTheirCommandPrintedAndNuevoHidesThem) {
   ASSERT_EQ(messages.size(), 1u);
   EXPECT_EQ(messages[0].text, "No se puede dar esta situación de juego");
   EXPECT_FALSE(shown(*form)["SPuras"].visible || shown(*form)["SMixtas"].visible);
+  EXPECT_FALSE(shown(*form)["E1(0)"].marked) << "a hidden panel marks no cell";
 
   // A strategy that dominates: no mixed equilibrium, the panel says so.
   form->setText("E1(0)", "3");

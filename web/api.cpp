@@ -229,6 +229,7 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.visible) j.field("visible", *c.visible);
     if (c.index) j.field("index", *c.index);
     if (c.checked) j.field("checked", *c.checked);
+    if (c.marked) j.field("marked", *c.marked);
     j.close('}');
   });
   j.close('}');

@@ -199,6 +199,10 @@ void nameChrome(QWidget& screen, const ui::Description& d) {
       if (u.action == c.action && u.name != c.name) renameChrome(screen, text(u.name), text(c.name));
 }
 
+void markCell(QLineEdit* cell, bool marked) {
+  cell->setStyleSheet(marked ? QStringLiteral("QLineEdit { background: #FDE9A8; }") : QString());
+}
+
 void focusFirstCell(QWidget& screen, const ui::Description& d) {
   for (const ui::Control& c : d.controls)
     if (c.kind == ui::ControlKind::Cell)

@@ -28,6 +28,8 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
 // Gives the window's commands the names the description gives them, where a
 // screen knows one by another name ("Image5" for volver).
 void nameChrome(QWidget& screen, const ui::Description& d);
+// A cell set apart, or not, by what a command found in it.
+void markCell(QLineEdit* cell, bool marked);
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
@@ -74,6 +76,7 @@ class DescribedEntry : public ModelEntry<Fields> {
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));
+      if (auto* box = qobject_cast<QLineEdit*>(w); box && b.marked) markCell(box, *b.marked(f));
     }
     if (drawn_.table) fitToTable(*this);
   }

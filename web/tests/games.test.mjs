@@ -1,7 +1,8 @@
 // The games in the browser: the two commands of the games of two and three
-// players print on their panels before Resolver, a refused game hides them,
-// nuevo blanks the screen; Rediseñar tabla reshapes the table of games with n
-// strategies and keeps what hidden cells hold.
+// players print on their panels before Resolver and mark the cells of the
+// pure equilibria, a refused game hides the panels, nuevo blanks the screen;
+// Rediseñar tabla reshapes the table of games with n strategies and keeps
+// what hidden cells hold.
 import { test, before, after } from 'node:test';
 import assert from 'node:assert/strict';
 import { openSite, press, onView, root, menuPaths, openModel, messageBox, abrir } from './browser.mjs';
@@ -44,6 +45,8 @@ test('Juegos_2: the commands fill their panels, Resolver needs them, nuevo hides
   assert.equal(await panel('SPuras').isVisible(), true);
   assert.equal(await panel('SMixtas').isVisible(), false);
   assert.equal(await panel('SPuras').textContent(), 'Equilibrio:   (2,1)\nEquilibrio:   (1,2)\n');
+  const marked = () => page.locator('#escritorio input.marcada').evaluateAll((cells) => cells.map((c) => c.name));
+  assert.deepEqual(await marked(), ['E1(0)', 'E1(1)', 'E4(0)', 'E4(1)']);
   await press(page, 'EstMixtas');
   assert.match(await panel('SMixtas').textContent(), /^J1 juega:\nDecisión1 con p =  \.6666667\n/);
   await press(page, 'Resolver');
@@ -58,6 +61,7 @@ test('Juegos_2: the commands fill their panels, Resolver needs them, nuevo hides
   assert.equal(await cell('E4(1)').inputValue(), '');
   assert.equal(await cell('Titulo1').inputValue(), '');
   assert.deepEqual([await panel('SPuras').isVisible(), await panel('SMixtas').isVisible()], [false, false]);
+  assert.deepEqual(await marked(), []);
   // What was computed stays: Resolver reports it.
   await press(page, 'Resolver');
   await onView(page, 'Juegos_2_Solucion').locator('.informe[data-text]').waitFor();

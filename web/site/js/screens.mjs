@@ -161,6 +161,7 @@ export function showFields(screenElement, fields) {
     }
     if ('index' in state) control.selectedIndex = state.index;
     if ('checked' in state) control.checked = state.checked;
+    if ('marked' in state) control.classList.toggle('marcada', state.marked);
     // An option or check box shows and hides with its caption.
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
