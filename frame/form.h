@@ -38,6 +38,9 @@ struct Binding {
   std::function<int*(Fields&)> index = {};
   std::function<bool*(Fields&)> checked = {};
   std::function<long*(Fields&)> color = {};
+  // A cell set apart by what a command found in it (an equilibrium); it
+  // reads it, never changes it.
+  std::function<bool*(Fields&)> marked = {};
 };
 
 // A text box that shows a member.
@@ -129,6 +132,7 @@ struct ControlState {
   const int* index;
   const bool* checked;
   const long* color;
+  const bool* marked;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -186,7 +190,8 @@ class FieldsForm : public EntryForm {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
-             b.checked ? b.checked(fields_) : nullptr, b.color ? b.color(fields_) : nullptr});
+             b.checked ? b.checked(fields_) : nullptr, b.color ? b.color(fields_) : nullptr,
+             b.marked ? b.marked(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);

@@ -1,6 +1,7 @@
 #include "games/juegos_2.h"
 
 #include "frame/catalogue.h"
+#include "games/juegos_jugadores_form.h"
 
 namespace vorel::games {
 
@@ -82,8 +83,10 @@ Pages solveAndReport(Juegos2Fields& f) {
 // The report repeats what the two commands computed: a file run presses them
 // in this order (a message of EstPuras ends the run).
 CatalogueEntry catalogueJuegos2() {
-  return catalogued<Juegos2Fields>("juegos2", "Juegos_2", "EstPuras, EstMixtas", exchange, check,
-                                   solveAndReport);
+  CatalogueEntry entry = catalogued<Juegos2Fields>("juegos2", "Juegos_2", "EstPuras, EstMixtas",
+                                                     exchange, check, solveAndReport);
+  entry.form = liveForm(juegos2Form());
+  return entry;
 }
 
 }  // namespace vorel::games

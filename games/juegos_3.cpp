@@ -1,6 +1,7 @@
 #include "games/juegos_3.h"
 
 #include "frame/catalogue.h"
+#include "games/juegos_jugadores_form.h"
 
 namespace vorel::games {
 
@@ -104,8 +105,10 @@ Pages solveAndReport(Juegos3Fields& f) {
 }
 
 CatalogueEntry catalogueJuegos3() {
-  return catalogued<Juegos3Fields>("juegos3", "Juegos_3", "EstPuras, EstMixtas", exchange, check,
-                                   solveAndReport);
+  CatalogueEntry entry = catalogued<Juegos3Fields>("juegos3", "Juegos_3", "EstPuras, EstMixtas",
+                                                     exchange, check, solveAndReport);
+  entry.form = liveForm(juegos3Form());
+  return entry;
 }
 
 }  // namespace vorel::games

@@ -3,6 +3,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/checks.h"
+#include "games/juegos_n_form.h"
 
 namespace vorel::games {
 
@@ -263,7 +264,7 @@ void exchange(ProblemFile& file, JuegosNFields& f) {
 }
 
 CatalogueEntry catalogueJuegosN() {
-  return catalogued<JuegosNFields>("juegosn", "Juegos_n", "", exchange, check, solveAndReport);
+  return catalogued("juegosn", juegosNForm());
 }
 
 }  // namespace vorel::games

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "productivity/productividad_simple_form.h"
 
 namespace vorel::productivity {
 
@@ -105,8 +106,7 @@ void nuevo(ProductividadSimpleFields& f) {
 }
 
 CatalogueEntry catalogueProductividadSimple() {
-  return catalogued<ProductividadSimpleFields>("productividad-parcial", "Productividad_Simple", "",
-                                               exchange, check, solveAndReport);
+  return catalogued("productividad-parcial", productividadSimpleForm());
 }
 
 }  // namespace vorel::productivity

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -40,8 +41,8 @@ class JuegosNScreens : public ScreenTest {
   QLineEdit* cellAt(int fila, int columna) {
     screen(kEntry)->layout()->activate();
     auto centre = [this](QWidget* w) { return w->mapTo(screen(kEntry), w->rect().center()); };
-    auto* rowHead = control<QLineEdit>(kEntry, QString("A(%1)").arg(fila - 1));
-    auto* columnHead = control<QLineEdit>(kEntry, QString("B(%1)").arg(columna - 1));
+    auto* rowHead = control<QLabel>(kEntry, QString("A(%1)").arg(fila - 1));
+    auto* columnHead = control<QLabel>(kEntry, QString("B(%1)").arg(columna - 1));
     EXPECT_EQ(rowHead->text(), QString("A%1").arg(fila));
     EXPECT_EQ(columnHead->text(), QString("B%1").arg(columna));
     for (auto* cell :

@@ -239,6 +239,7 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.index) j.field("index", *c.index);
     if (c.checked) j.field("checked", *c.checked);
     if (c.color) j.field("color", platformColor(*c.color));
+    if (c.marked) j.field("marked", *c.marked);
     j.close('}');
   });
   j.close('}');

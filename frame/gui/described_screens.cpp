@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "frame/gui/picture_button.h"
+#include "frame/gui/printing.h"
 #include "frame/gui/table_screen.h"
 
 namespace vorel::gui {
@@ -54,16 +55,34 @@ QAbstractButton* tick(QWidget& screen, const ui::Control& c,
   return button;
 }
 
-// The window's commands take the names the description gives them ("Image5"
-// for volver), where they differ from the frame's.
-void nameChrome(QWidget& screen, const ui::Description& d) {
-  const nav::ScreenInfo* info = nav::findScreen(d.name);
-  if (!info) return;
-  for (const ui::Command& frame : ui::chrome(*info))
-    for (const ui::Command& own : d.chrome)
-      if (own.action == frame.action && own.name != frame.name)
-        if (auto* button = screen.findChild<QAbstractButton*>(text(frame.name)))
-          button->setObjectName(text(own.name));
+// A panel of an entry screen that a command prints lines on: `width`
+// average characters wide and `height` lines high, at least; its text is
+// bound to the fields.
+class Panel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  QSize base;
+  // Never smaller than its lines, whatever room the window has.
+  QSize sizeHint() const override { return QLabel::sizeHint().expandedTo(base); }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+QLabel* panel(QWidget* parent, const ui::Control& c) {
+  auto* label = new Panel(parent);
+  label->setObjectName(text(c.name));
+  label->setFont(reportFont(kScreenPointSize));
+  label->setTextFormat(Qt::PlainText);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  const QFontMetricsF m(label->font());
+  label->base = QSize(int(averageCharWidth(m) * c.width) + 16, int(m.lineSpacing() * c.height) + 16);
+  label->setStyleSheet(
+      "QLabel { background: #FFFFFF; color: #000000; border: 1px solid #D5DAE3;"
+      " border-radius: 6px; padding: 8px; }");
+  // It keeps its room while hidden, so that the window does not jump.
+  QSizePolicy policy = label->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  label->setSizePolicy(policy);
+  return label;
 }
 
 // A control of a table: the texts above it, column and row headings, cells,
@@ -156,6 +175,9 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
         w = button;
         break;
       }
+      case ui::ControlKind::ReportBox:
+        w = panel(&screen, c);
+        break;
       default:
         continue;
     }
@@ -171,7 +193,8 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
       QPushButton* button = redesignButton(
           screen, [runEdit, edit = c.target] { runEdit(edit); }, text(c.caption), text(c.name));
       button->setToolTip(text(c.toolTip));
-      fields->addWidget(button, commandRow++, lastColumn + 2, 2, 1, Qt::AlignVCenter);
+      fields->addWidget(button, commandRow, lastColumn + 2, 2, 1, Qt::AlignVCenter);
+      commandRow += 2;
       fields->setColumnMinimumWidth(lastColumn + 1, 24);
       fields->setColumnStretch(lastColumn + 3, 1);
     }
@@ -216,6 +239,19 @@ void showTables(const DescribedControls& drawn) {
     table->setVisible(std::any_of(controls.begin(), controls.end(),
                                   [](QWidget* w) { return !w->isHidden(); }));
   }
+}
+
+void nameChrome(QWidget& screen, const ui::Description& d) {
+  const nav::ScreenInfo* info = nav::findScreen(d.name);
+  if (!info) return;
+  const std::vector<ui::Command> usual = ui::chrome(*info);
+  for (const ui::Command& c : d.chrome)
+    for (const ui::Command& u : usual)
+      if (u.action == c.action && u.name != c.name) renameChrome(screen, text(u.name), text(c.name));
+}
+
+void markCell(QLineEdit* cell, bool marked) {
+  cell->setStyleSheet(marked ? QStringLiteral("QLineEdit { background: #FDE9A8; }") : QString());
 }
 
 void focusFirstCell(QWidget& screen, const ui::Description& d) {

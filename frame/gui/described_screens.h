@@ -29,6 +29,11 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
                                 const std::function<void(const std::string& edit)>& runEdit);
 // Shows a table where one of its controls shows, hides it where none does.
 void showTables(const DescribedControls& drawn);
+// Gives the window's commands the names the description gives them, where a
+// screen knows one by another name ("Image5" for volver).
+void nameChrome(QWidget& screen, const ui::Description& d);
+// A cell set apart, or not, by what a command found in it.
+void markCell(QLineEdit* cell, bool marked);
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
@@ -52,8 +57,10 @@ class DescribedEntry : public ModelEntry<Fields> {
 
   // Each bound control by its name: a text box's text, a selector's list
   // index, an option's or check box's tick, a control's visibility.
+  // What no control shows (what a command keeps for the report) stays as the
+  // last edit left it, as in the browser's live fields.
   Fields fields() const override {
-    Fields f;
+    Fields f = kept_;
     for (const Binding<Fields>& b : form_.bindings) {
       QWidget* w = control(b.control);
       if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
@@ -73,6 +80,7 @@ class DescribedEntry : public ModelEntry<Fields> {
     return f;
   }
   void setFields(const Fields& given) override {
+    kept_ = given;
     Fields f = given;
     for (const Binding<Fields>& b : form_.bindings) {
       QWidget* w = control(b.control);
@@ -89,6 +97,7 @@ class DescribedEntry : public ModelEntry<Fields> {
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));
+      if (auto* box = qobject_cast<QLineEdit*>(w); box && b.marked) markCell(box, *b.marked(f));
     }
     showTables(drawn_);
     if (drawn_.table) fitToTable(*this);
@@ -96,13 +105,26 @@ class DescribedEntry : public ModelEntry<Fields> {
   const Form<Fields>& form() const { return form_; }
 
  protected:
+  // The form's own model functions, which may differ from a file run's.
+  using ModelEntry<Fields>::nuevo;
+  void exchange(ProblemFile& file, Fields& f) override { form_.model.exchange(file, f); }
+  Messages check(const Fields& f) override { return form_.model.check(f); }
+  void nuevo(Fields& f) override { form_.model.nuevo(f); }
+
   // Runs one of the form's edits of the fields by name (a selector's click,
-  // Rediseñar); an edit command then leaves the focus in the table.
+  // Rediseñar); an edit command then leaves the focus in the table. What the
+  // edit did stays even where it tells a message (a command that refuses a
+  // game still hides its panels), as in the browser.
   void runEdit(const std::string& name) {
     for (auto& [editName, run] : form_.edits)
-      if (editName == name && this->edit([run = run](Fields& f) { return run(f); }))
+      if (editName == name) {
+        Fields f = fields();
+        const Messages messages = run(f);
+        setFields(f);
+        if (!this->tell(messages)) return;
         for (const ui::Command& c : form_.entry.commands)
           if (c.action == ui::Action::Edit && c.target == name) focusFirstCell(*this, form_.entry);
+      }
   }
   QWidget* control(const std::string& name) const {
     return this->template findChild<QWidget*>(QString::fromStdString(name));
@@ -116,6 +138,7 @@ class DescribedEntry : public ModelEntry<Fields> {
  private:
   const Form<Fields>& form_;
   DescribedControls drawn_;
+  Fields kept_;
 };
 
 // The solution screen: each activation solves the entry screen's fields

@@ -3,7 +3,7 @@
 // shows an example (its "libro" where it has one), then its solution. The
 // printed page of one model of each subsystem goes to FOLDER/<id>-imprimir.pdf.
 // VOREL_MODELS=id,id... shoots only those models (and no menus).
-import { mkdirSync, readdirSync } from 'node:fs';
+import { mkdirSync, readdirSync, readFileSync } from 'node:fs';
 import { openSite, press, onView, root, menuPaths, openModel } from './browser.mjs';
 
 const folder = process.argv[2] ?? `${root}/screenshots/web`;
@@ -14,9 +14,13 @@ const only = process.env.VOREL_MODELS?.split(',');
 // section) prints its page to PDF.
 const printed = new Set();
 
+// Its "libro", or else the first example that reaches a solution (not a
+// message or a run-time error).
 function exampleOf(id) {
-  const files = readdirSync(`${root}/examples/${id}`).filter((f) => f.endsWith('.txt')).sort();
-  return (files.find((f) => f === 'libro.txt') ?? files[0]).replace(/\.txt$/, '');
+  const names = readdirSync(`${root}/examples/${id}`).filter((f) => f.endsWith('.txt')).sort()
+    .map((f) => f.replace(/\.txt$/, ''));
+  const solves = (name) => !readFileSync(`${root}/tests/golden/${id}/${name}.report`, 'utf8').startsWith('[salida');
+  return names.find((n) => n === 'libro') ?? names.find(solves) ?? names[0];
 }
 
 for (const width of [1280, 390]) {
@@ -46,7 +50,9 @@ for (const width of [1280, 390]) {
     await chooser.setFiles(`${root}/examples/${model.model}/${exampleOf(model.model)}.txt`);
     await page.evaluate(() => window.vorel.reading);
     await shoot(model.name);
-    for (const name of model.presses.split(', ').filter(Boolean)) await press(page, name);
+    const presses = model.presses.split(', ').filter(Boolean);
+    for (const name of presses) await press(page, name);
+    if (presses.length > 0) await shoot(`${model.name}_${presses.join('_')}`);  // what they show
     await press(page, 'Resolver');
     await page.locator('#escritorio .solution .informe .linea').first().waitFor();
     await shoot(`${model.name}_Solucion`);

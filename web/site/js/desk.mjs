@@ -242,8 +242,10 @@ export class Desk {
   async runEdit(name, edit) {
     const answer = this.core.edit(name, edit);
     if (answer.error) throw { runtime: answer.error };
-    await this.tell(name, answer.messages);
+    // What the edit did shows even where it tells a message (a command that
+    // refuses a game hides its panels).
     this.showFields(name, answer.fields);
+    await this.tell(name, answer.messages);
     return answer.messages.length === 0;
   }
 

@@ -87,6 +87,12 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
             type: c.kind === 'option' ? 'radio' : 'checkbox', id: id(c.name), name: c.name,
             onchange: (e) => ticked(c.name, e.target.checked, c.edit),
           }), c.text);
+      case 'report':  // a panel a command prints lines on, its text bound to the fields
+        return el('pre', {
+          className: 'panel', name: c.name,
+          style: `${place(c)}; order: ${c.row + 1}; min-width: ${c.width}ch; min-height: ${c.height * 1.15}em`,
+          hidden: !c.visible,
+        });
       default:
         if (c.buddy) {
           return el('label', {
@@ -113,7 +119,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const lastColumn = Math.max(1, ...d.controls.filter((c) => c.group === 0).map((c) => c.column));
   const edits = d.commands.filter((c) => c.action === 'edit').map((c, i) => el('button', {
     type: 'button', className: 'editar', name: c.name, title: c.toolTip || undefined, textContent: c.caption,
-    style: `grid-row: ${i + 1} / span 2; grid-column: ${lastColumn + 2}`, onclick: () => press(c),
+    style: `grid-row: ${2 * i + 1} / span 2; grid-column: ${lastColumn + 2}; order: ${2 * i}`, onclick: () => press(c),
   }));
   const commands = el('div', { className: 'ordenes' },
     d.commands.filter((c) => c.action !== 'edit').map((c) => commandPicture(c, press, { captioned: true })));
@@ -195,6 +201,7 @@ export function showFields(screenElement, fields) {
     if ('index' in state) control.selectedIndex = state.index;
     if ('checked' in state) control.checked = state.checked;
     if ('color' in state) control.style.backgroundColor = state.color;
+    if ('marked' in state) control.classList.toggle('marcada', state.marked);
     // An option or check box shows and hides with its caption.
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
