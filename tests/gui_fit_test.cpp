@@ -355,6 +355,9 @@ TEST_F(ScreenFit, WindowsFollowAPartShownOrHidden) {
   settle();
   EXPECT_GT(s->height(), two.height());
   EXPECT_EQ(body->verticalScrollBar()->maximum(), 0);
+  openFile(entry, examplePath("costes-totales", "dos-opciones.txt"));
+  settle();
+  EXPECT_EQ(s->size(), two);
 }
 
 // Drags a window by its header band, as the student does.
