@@ -262,6 +262,7 @@ TEST_F(ScreenFit, SelectorListsOpenBelowTheirBox) {
 TEST_F(ScreenFit, TheFileDialogShowsSizeTypeAndDate) {
   QTemporaryDir dir;
   writeBytes((dir.path() + "/Problema1").toStdString(), "\"Problema1\"\r\n");
+  writeBytes((dir.path() + "/Problema2.txt").toStdString(), "\"Problema2\"\r\n");  // a typed file
   auto dialog = gui::fileDialog(QFileDialog::AcceptOpen, gui::kOpenFilter, 2);
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setDirectory(dir.path());
@@ -277,6 +278,8 @@ TEST_F(ScreenFit, TheFileDialogShowsSizeTypeAndDate) {
     EXPECT_FALSE(head->isSectionHidden(c)) << c;
     EXPECT_LE(head->sectionViewportPosition(c) + head->sectionSize(c), files->viewport()->width())
         << "column " << c << " runs off the dialog";
+    EXPECT_GE(head->sectionSize(c), static_cast<QAbstractItemView*>(files)->sizeHintForColumn(c)) << "column " << c << " cut short";
+    EXPECT_GE(head->sectionSize(c), head->sectionSizeHint(c)) << "heading " << c << " cut short";
   }
   dialog->hide();
 }
@@ -354,6 +357,9 @@ TEST_F(ScreenFit, WindowsFollowAPartShownOrHidden) {
   settle();
   EXPECT_GT(s->height(), two.height());
   EXPECT_EQ(body->verticalScrollBar()->maximum(), 0);
+  openFile(entry, examplePath("costes-totales", "dos-opciones.txt"));
+  settle();
+  EXPECT_EQ(s->size(), two);
 }
 
 // Drags a window by its header band, as the student does.

@@ -134,6 +134,9 @@ MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
     grid->addWidget(caption, row, column + 1);
     ++at;
   }
+  // A window wider than the choices (for its heading) leaves the room after
+  // them, not between a picture and its caption.
+  grid->setColumnStretch(columns * 2, 1);
   body()->addLayout(grid);
   body()->addStretch();
 }

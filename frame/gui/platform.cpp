@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTreeView>
 #include <cstdlib>
 
 #include "frame/gui/help_window.h"
@@ -88,6 +90,14 @@ std::unique_ptr<QFileDialog> fileDialog(QFileDialog::AcceptMode mode, const QStr
   const QRect area =
       dialog->parentWidget() ? screenArea(*dialog->parentWidget()) : screenArea(*dialog);
   dialog->resize(QSize(900, 560).boundedTo(area.size() - QSize(32, 32)));
+  // The size, type and date as wide as they read, whole; the names take the rest.
+  if (auto* files = dialog->findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    QHeaderView* head = files->header();
+    head->setStretchLastSection(false);
+    for (int c = 1; c < head->count(); ++c)
+      head->setSectionResizeMode(c, QHeaderView::ResizeToContents);
+    if (head->count() > 0) head->setSectionResizeMode(0, QHeaderView::Stretch);
+  }
   return dialog;
 }
 

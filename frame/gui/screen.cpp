@@ -52,7 +52,7 @@ class BodyArea : public QScrollArea {
           this,
           [this] {
             refitting_ = false;
-            if (QWidget* w = window(); w->isVisible()) fitWindow(*w);
+            fitWindow(*window());
           },
           Qt::QueuedConnection);
     }
@@ -88,6 +88,9 @@ void fitWindow(QWidget& window) {
   // body's content sits in a scroll area, whose own size hint no layout asks
   // again on its own: it is marked changed, so the window's layout reads the
   // content's new size, smaller as well as larger.
+  // Style sheets take effect when a widget is polished, which a window not
+  // yet shown is not: its fonts and paddings are measured as they will show.
+  window.ensurePolished();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   if (auto* body = window.findChild<QScrollArea*>(QStringLiteral("cuerpo"))) body->updateGeometry();
   if (auto* layout = window.layout()) layout->activate();
