@@ -102,11 +102,6 @@ struct Form {
   std::vector<ui::Description> otherSolutions = {};
   std::string (*resolverShows)(const Fields&) = nullptr;
 
-  const ui::Description& solutionNamed(std::string_view name) const {
-    for (const ui::Description& d : otherSolutions)
-      if (d.name == name) return d;
-    return solution;
-  }
   std::string solutionShown(const Fields& f) const {
     return resolverShows ? resolverShows(f) : solution.name;
   }
