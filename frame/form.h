@@ -27,8 +27,9 @@ struct ModelFunctions {
   Pages (*solveAndReport)(Fields&);
 };
 
-// A control bound to the fields: where its text, its visibility or its list
-// index live (each where the control has one).
+// A control bound to the fields: where its text, its visibility, its list
+// index, its tick, whether it is enabled and its tool-tip live (each where the
+// control has one).
 template <class Fields>
 struct Binding {
   std::string control;
@@ -36,6 +37,8 @@ struct Binding {
   std::function<bool*(Fields&)> visible = {};
   std::function<int*(Fields&)> index = {};
   std::function<bool*(Fields&)> checked = {};
+  std::function<bool*(Fields&)> enabled = {};
+  std::function<std::string*(Fields&)> toolTip = {};
 };
 
 // A text box that shows a member.
@@ -105,6 +108,8 @@ struct ControlState {
   const bool* visible;
   const int* index;
   const bool* checked;
+  const bool* enabled;
+  const std::string* toolTip;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -151,7 +156,8 @@ class FieldsForm : public EntryForm {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
-             b.checked ? b.checked(fields_) : nullptr});
+             b.checked ? b.checked(fields_) : nullptr, b.enabled ? b.enabled(fields_) : nullptr,
+             b.toolTip ? b.toolTip(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);

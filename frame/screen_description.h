@@ -53,6 +53,7 @@ enum class ControlKind {
   Option,     // a choice among the options of the same `family` (a radio button)
   Check,      // a box ticked or not
   Chart,      // the chart a solution screen draws beside its report
+  ListBox,    // a list shown open, `height` lines tall, its items all in view
 };
 
 struct Control {
@@ -87,6 +88,9 @@ struct Description {
   std::vector<Control> controls;  // in reading order
   std::vector<Command> chrome;    // the window's own commands in the header band
   std::vector<Command> commands;  // the screen's commands, or a menu's pictures
+  // An entry screen: the edit of the fields (see Form::edits) that each
+  // arrival on the screen runs, the first included; none where empty.
+  std::string activate;
 };
 
 // The texts of the frame that every screen shares.

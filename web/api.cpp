@@ -86,6 +86,8 @@ const char* kindName(ui::ControlKind k) {
       return "check";
     case ui::ControlKind::Chart:
       return "chart";
+    case ui::ControlKind::ListBox:
+      return "listbox";
   }
   return "label";
 }
@@ -134,6 +136,7 @@ void writeList(Json& j, std::string_view key, const std::vector<T>& items) {
 
 void write(Json& j, const ui::Description& d) {
   j.open('{').field("name", d.name).field("heading", d.heading).field("intro", d.intro);
+  j.field("activate", d.activate);
   j.key("titleLabel");
   write(j, d.titleLabel);
   j.key("titleField");
@@ -220,7 +223,8 @@ EntryForm* form(const char* screen) {
 }
 
 // What every bound control of the screen shows: {"D": {"text": "1000"},
-// "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0}, ...}.
+// "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0},
+// "K": {"text": "", "enabled": false}, "Nu": {"toolTip": "..."}, ...}.
 void writeFields(Json& j, EntryForm& f) {
   j.open('{');
   f.each([&j](const ControlState& c) {
@@ -229,6 +233,8 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.visible) j.field("visible", *c.visible);
     if (c.index) j.field("index", *c.index);
     if (c.checked) j.field("checked", *c.checked);
+    if (c.enabled) j.field("enabled", *c.enabled);
+    if (c.toolTip) j.field("toolTip", *c.toolTip);
     j.close('}');
   });
   j.close('}');

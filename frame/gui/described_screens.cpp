@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <algorithm>
 #include <map>
 
 #include "frame/gui/picture_button.h"
@@ -19,8 +20,22 @@ QLabel* fieldLabel(QWidget* parent, const ui::Control& c) {
   label->setObjectName(text(c.name));
   label->setWordWrap(c.width > 0);
   if (c.width > 0) label->setMaximumWidth(c.width);
-  label->setStyleSheet("font-size: 10pt; color: #1A202C;");
+  label->setStyleSheet("QLabel { font-size: 10pt; color: #1A202C; } QLabel:disabled { color: #A0AEC0; }");
   return label;
+}
+
+// A list shown open: as tall as its lines, its items all in view.
+QListWidget* listBox(QWidget& screen, const ui::Control& c) {
+  auto* list = new QListWidget(&screen);
+  list->setObjectName(text(c.name));
+  for (const std::string& item : c.items) list->addItem(text(item));
+  list->setToolTip(text(c.toolTip));
+  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const int lines = std::max(1, c.height);
+  list->setFixedSize(c.width > 0 ? c.width : 64,
+                     lines * list->fontMetrics().height() + 2 * list->frameWidth() + 6);
+  return list;
 }
 
 QComboBox* selector(QWidget& screen, const ui::Control& c,
@@ -116,10 +131,17 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
       case ui::ControlKind::Selector:
         w = selector(screen, c, runEdit);
         break;
+      case ui::ControlKind::ListBox:
+        w = listBox(screen, c);
+        break;
       case ui::ControlKind::Option:
       case ui::ControlKind::Check: {
         auto* button = tick(screen, c, runEdit);
-        if (c.kind == ui::ControlKind::Option) {
+        // Options of no family are chosen by their edits alone, and may all
+        // stand unchosen.
+        if (c.kind == ui::ControlKind::Option && c.family.empty()) {
+          button->setAutoExclusive(false);
+        } else if (c.kind == ui::ControlKind::Option) {
           QButtonGroup*& family = families[c.family];
           if (!family) family = new QButtonGroup(&screen);
           family->addButton(button);
@@ -166,6 +188,15 @@ void focusFirstCell(QWidget& screen, const ui::Description& d) {
 
 DescribedSolutionBase::DescribedSolutionBase(const ui::Description& d)
     : SolutionScreen(d), description_(d) {
+  // The window's commands take the names the description gives them, where
+  // it renames one of the screen tree's (its commands in the same order).
+  if (info()) {
+    const std::vector<ui::Command> tree = ui::chrome(*info());
+    for (std::size_t i = 0; i < tree.size() && i < d.chrome.size(); ++i)
+      if (tree[i].name != d.chrome[i].name)
+        if (auto* button = findChild<QAbstractButton*>(text(tree[i].name)))
+          button->setObjectName(text(d.chrome[i].name));
+  }
   int at = 0;
   for (const ui::Command& c : d.commands)
     if (c.action == ui::Action::Browse) {

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QListWidget>
 #include <memory>
 
 #include "frame/form.h"
@@ -46,11 +47,17 @@ class DescribedEntry : public ModelEntry<Fields> {
       QWidget* w = control(b.control);
       if (auto* box = qobject_cast<QLineEdit*>(w); box && b.text)
         *b.text(f) = box->text().toStdString();
+      if (auto* label = qobject_cast<QLabel*>(w); label && b.text)
+        *b.text(f) = label->text().toStdString();
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         *b.index(f) = list->currentIndex();
+      if (auto* list = qobject_cast<QListWidget*>(w); list && b.index)
+        *b.index(f) = list->currentRow();
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         *b.checked(f) = tick->isChecked();
       if (w && b.visible) *b.visible(f) = !w->isHidden();
+      if (w && b.enabled) *b.enabled(f) = w->isEnabledTo(this);
+      if (w && b.toolTip) *b.toolTip(f) = w->toolTip().toStdString();
     }
     return f;
   }
@@ -64,13 +71,21 @@ class DescribedEntry : public ModelEntry<Fields> {
         label->setText(QString::fromStdString(*b.text(f)));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         list->setCurrentIndex(*b.index(f));
+      if (auto* list = qobject_cast<QListWidget*>(w); list && b.index)
+        list->setCurrentRow(*b.index(f));
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));
+      if (w && b.enabled) w->setEnabled(*b.enabled(f));
+      if (w && b.toolTip) w->setToolTip(QString::fromStdString(*b.toolTip(f)));
     }
     if (drawn_.table) fitToTable(*this);
   }
   const Form<Fields>& form() const { return form_; }
+  // Each arrival runs the description's edit of arrival, where it has one.
+  void formActivate() override {
+    if (!form_.entry.activate.empty()) Screen::run([this] { runEdit(form_.entry.activate); });
+  }
 
  protected:
   // Runs one of the form's edits of the fields by name (a selector's click,
@@ -120,8 +135,13 @@ class DescribedSolution : public DescribedSolutionBase {
 
  protected:
   std::unique_ptr<Solution> solveWith(long stepBudget) override {
-    fields_ = entry<DescribedEntry<Fields>>().fields();
-    return form_.solve(fields_, stepBudget);
+    auto& entryScreen = entry<DescribedEntry<Fields>>();
+    fields_ = entryScreen.fields();
+    std::unique_ptr<Solution> solved = form_.solve(fields_, stepBudget);
+    // A solver works on the entry's own fields: what it changes there (the
+    // model it chose, the samples it removed) shows on the entry screen.
+    if (form_.solver) entryScreen.setFields(fields_);
+    return solved;
   }
 
  private:
