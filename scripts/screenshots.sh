@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Saves a screenshot of the start screen, the main menu and every section
 # menu (and of the model screens that tests/screens can reach) under Xvfb.
+# VOREL_SCREENS=name,name... pictures only those entry screens and their solutions.
 set -euo pipefail
 build=${1:-build}
 out=${2:-screenshots}

@@ -28,10 +28,13 @@ void save(gui::Screen* s, const QString& dir, const std::string& name) {
 TEST_F(Screenshots, DISABLED_EveryMenuAndModelScreen) {
   const QString dir = qEnvironmentVariable("VOREL_SCREENSHOTS", "screenshots");
   QDir().mkpath(dir);
+  // VOREL_SCREENS=name,name... pictures only those screens (and the solutions of those entries).
+  const QStringList only = qEnvironmentVariable("VOREL_SCREENS").split(',', Qt::SkipEmptyParts);
   for (const nav::ScreenInfo& info : nav::screens()) {
     if (!screens().available(info.name) || info.kind == nav::Kind::Solution ||
         info.kind == nav::Kind::ChartPrint)
       continue;
+    if (!only.isEmpty() && !only.contains(QString::fromStdString(info.name))) continue;
     screens().reset();
     gui::Screen* s = screens().show(info.name);
     if (info.kind != nav::Kind::Entry) {

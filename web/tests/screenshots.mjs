@@ -3,7 +3,7 @@
 // shows an example (its "libro" where it has one), then its solution. The
 // printed page of one model of each subsystem goes to FOLDER/<id>-imprimir.pdf.
 // VOREL_MODELS=id,id... shoots only those models (and no menus).
-import { mkdirSync, readdirSync } from 'node:fs';
+import { mkdirSync, readdirSync, readFileSync } from 'node:fs';
 import { openSite, press, onView, root, menuPaths, openModel } from './browser.mjs';
 
 const folder = process.argv[2] ?? `${root}/screenshots/web`;
@@ -14,9 +14,13 @@ const only = process.env.VOREL_MODELS?.split(',');
 // section) prints its page to PDF.
 const printed = new Set();
 
+// The example pictured: "libro" where there is one, else the first that
+// solves (whose golden report is no message, error or endless run).
 function exampleOf(id) {
   const files = readdirSync(`${root}/examples/${id}`).filter((f) => f.endsWith('.txt')).sort();
-  return (files.find((f) => f === 'libro.txt') ?? files[0]).replace(/\.txt$/, '');
+  const solves = (f) => !readFileSync(`${root}/tests/golden/${id}/${f.replace(/\.txt$/, '.report')}`, 'utf8')
+    .startsWith('[salida');
+  return (files.find((f) => f === 'libro.txt') ?? files.find(solves) ?? files[0]).replace(/\.txt$/, '');
 }
 
 for (const width of [1280, 390]) {
