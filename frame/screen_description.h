@@ -69,7 +69,10 @@ struct Control {
   int group = 0;
   int row = 0, column = 0;
   // A text box's width in pixels at scale 1; a report box's in average
-  // character widths, its height in lines.
+  // character widths, its height in lines; a list box's height in lines. A
+  // label given a width breaks into lines at the runs of blanks of its text
+  // (the desktop makes it that wide at least; the browser breaks it as the
+  // page's width asks).
   int width = 0, height = 0;
   bool visible = true;
   std::vector<std::string> items;  // a selector's list

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 
+#include "frame/gui/captions.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/table_screen.h"
 
@@ -18,9 +19,8 @@ QString text(const std::string& s) { return QString::fromStdString(s); }
 QLabel* fieldLabel(QWidget* parent, const ui::Control& c) {
   auto* label = new QLabel(text(c.text), parent);
   label->setObjectName(text(c.name));
-  label->setWordWrap(c.width > 0);
-  if (c.width > 0) label->setMaximumWidth(c.width);
   label->setStyleSheet("QLabel { font-size: 10pt; color: #1A202C; } QLabel:disabled { color: #A0AEC0; }");
+  if (c.width > 0) wrapAtBlankRuns(label, c.width);
   return label;
 }
 

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "frame/gui/captions.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/picture_button.h"
 
@@ -78,10 +79,7 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
                            "QLabel { font-size: 10pt; color: #1A202C; }"
                            " QLabel:disabled { color: #A0AEC0; }");
       label->setObjectName(QString::fromStdString(caption->name));
-      if (caption->width > 0) {
-        label->setWordWrap(true);
-        label->setFixedWidth(caption->width);
-      }
+      if (caption->width > 0) wrapAtBlankRuns(label, caption->width);
       label->setBuddy(box);
       label->setVisible(caption->visible && c.visible);
       fields_->addWidget(label, caption->row, caption->column);
