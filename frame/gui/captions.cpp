@@ -14,7 +14,10 @@ void wrapAtBlankRuns(QLabel* label, int least) {
   for (const QString& part : label->text().split(runs))
     widest = std::max(widest, metrics.horizontalAdvance(part));
   label->setWordWrap(true);
-  label->setFixedWidth(std::max(least, widest + 8));
+  const int width = std::max(least, widest + 8);
+  label->setFixedWidth(width);
+  // A grid squeezed for height keeps every line of it.
+  label->setMinimumHeight(label->heightForWidth(width));
 }
 
 }  // namespace vorel::gui
