@@ -152,6 +152,8 @@ void tablaValoraciones(Form<F>& form) {
                              [k](F& f) { return &f.LblAlternativas[k].visible; },
                              {},
                              {},
+                             {},
+                             {},
                              [k](F& f) { return &f.LblAlternativas[k].BackColor; }});
   }
   for (std::size_t i = 0; i < n; ++i) {

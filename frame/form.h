@@ -27,9 +27,10 @@ struct ModelFunctions {
   Pages (*solveAndReport)(Fields&);
 };
 
-// A control bound to the fields: where its text, its visibility or its list
-// index live (each where the control has one); a label's back colour, as the
-// platform stores it (a Long with red in the lowest byte).
+// A control bound to the fields: where its text, its visibility, its list
+// index, its tick, whether it is enabled and its tool-tip live (each where the
+// control has one); a label's back colour, as the platform stores it (a Long
+// with red in the lowest byte); whether a cell is marked.
 template <class Fields>
 struct Binding {
   std::string control;
@@ -37,6 +38,8 @@ struct Binding {
   std::function<bool*(Fields&)> visible = {};
   std::function<int*(Fields&)> index = {};
   std::function<bool*(Fields&)> checked = {};
+  std::function<bool*(Fields&)> enabled = {};
+  std::function<std::string*(Fields&)> toolTip = {};
   std::function<long*(Fields&)> color = {};
   // A cell set apart by what a command found in it (an equilibrium); it
   // reads it, never changes it.
@@ -126,6 +129,8 @@ struct ControlState {
   const bool* visible;
   const int* index;
   const bool* checked;
+  const bool* enabled;
+  const std::string* toolTip;
   const long* color;
   const bool* marked;
 };
@@ -185,7 +190,8 @@ class FieldsForm : public EntryForm {
     for (const Binding<Fields>& b : form_.bindings)
       visit({b.control, b.text ? b.text(fields_) : nullptr,
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
-             b.checked ? b.checked(fields_) : nullptr, b.color ? b.color(fields_) : nullptr,
+             b.checked ? b.checked(fields_) : nullptr, b.enabled ? b.enabled(fields_) : nullptr,
+             b.toolTip ? b.toolTip(fields_) : nullptr, b.color ? b.color(fields_) : nullptr,
              b.marked ? b.marked(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {

@@ -53,6 +53,7 @@ enum class ControlKind {
   Option,     // a choice among the options of the same `family` (a radio button)
   Check,      // a box ticked or not
   Chart,      // the chart a solution screen draws beside its report
+  ListBox,    // a list shown open, `height` lines tall, its items all in view
 };
 
 struct Control {
@@ -70,7 +71,10 @@ struct Control {
   int row = 0, column = 0;
   int rowSpan = 1, columnSpan = 1;  // the rows and columns of its grid it covers
   // A text box's width in pixels at scale 1; a report box's in average
-  // character widths, its height in lines.
+  // character widths, its height in lines; a list box's height in lines. A
+  // label given a width breaks into lines at the runs of blanks of its text
+  // (the desktop makes it that wide at least; the browser breaks it as the
+  // page's width asks).
   int width = 0, height = 0;
   bool visible = true;
   std::vector<std::string> items;  // a selector's list
@@ -92,6 +96,9 @@ struct Description {
   // Where an entry screen has several tables: side by side (else one below
   // the other).
   bool tablesAcross = false;
+  // An entry screen: the edit of the fields (see Form::edits) that each
+  // arrival on the screen runs, the first included; none where empty.
+  std::string activate;
 };
 
 // The texts of the frame that every screen shares.

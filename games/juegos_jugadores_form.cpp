@@ -88,7 +88,7 @@ Form<P> construir(const std::string& screen, const std::string& heading, const s
       ui::Control cell = control(ui::ControlKind::Cell, name, "", 1, row, int(j) + 1);
       cell.width = 72;
       controls.push_back(cell);
-      form.bindings.push_back({name, [c, j](P& p) { return &(*p.campos.celdas()[c])[j]; }, {}, {}, {}, {},
+      form.bindings.push_back({name, [c, j](P& p) { return &(*p.campos.celdas()[c])[j]; }, {}, {}, {}, {}, {}, {},
                                [c](P& p) { return &p.Resaltada[c]; }});
     }
   }

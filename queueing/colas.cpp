@@ -4,6 +4,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "queueing/colas_form.h"
 
 namespace vorel::queueing {
 
@@ -415,7 +416,7 @@ void exchange(ProblemFile& file, ColasFields& f) {
 }
 
 CatalogueEntry catalogueColas() {
-  return catalogued<ColasFields>("colas", "TeoriaColas", "", exchange, check, solveAndReport);
+  return catalogued("colas", colasForm());
 }
 
 }  // namespace vorel::queueing

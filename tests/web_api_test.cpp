@@ -357,6 +357,38 @@ TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   vorel_unload(screen);
 }
 
+// The queues: an open list, options the fields choose, controls enabled and
+// relabelled by the fields, the edit each arrival runs, and Resolver writing
+// the model it chose into the entry's hidden fields.
+TEST(WebApiColas, TheFieldsEnableTheControlsAndResolverWritesTheModel) {
+  const char* screen = "TeoriaColas";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"("activate":"llegada")"));
+  EXPECT_THAT(loaded, HasSubstr(R"("kind":"listbox","name":"LLegadas")"));
+  EXPECT_THAT(loaded, HasSubstr(R"("K":{"text":"","enabled":false})"));
+  EXPECT_THAT(loaded, HasSubstr(R"("name":"back2")"));
+  const std::string arrived = vorel_edit(screen, "llegada");
+  EXPECT_THAT(arrived, HasSubstr(R"("ColaIlimitada":{"checked":true})"));
+  EXPECT_THAT(arrived, HasSubstr(R"("Servicios":{"index":0,"enabled":true})"));
+  ASSERT_TRUE(vorel_set_checked(screen, "ColaLimitada", 1));
+  const std::string limited = vorel_edit(screen, "ColaLimitada");
+  EXPECT_THAT(limited, HasSubstr(R"("ColaIlimitada":{"checked":false},"ColaLimitada":{"checked":true})"));
+  EXPECT_THAT(limited, HasSubstr(R"("TamañoCola":{"enabled":true},"K":{"text":"","enabled":true})"));
+  EXPECT_THAT(limited, HasSubstr(R"("Servicios":{"index":0,"enabled":false})"));
+  ASSERT_TRUE(vorel_set_index(screen, "Servicios", 1));
+  const std::string general = vorel_edit(screen, "Servicios");
+  EXPECT_THAT(general, HasSubstr(R"("S":{"text":"1","enabled":false})"));
+  EXPECT_THAT(general, HasSubstr(
+      R"("LblNu":{"text":"Valor esperado"},"Nu":{"text":"","toolTip":"Número medio de clientes atendidos por hora"})"));
+  for (auto [control, text] :
+       {std::pair{"S", "2"}, {"K", "4"}, {"Lambda", "3"}, {"Nu", "2"}, {"VarTS", "1"}})
+    ASSERT_TRUE(vorel_set(screen, control, text));
+  EXPECT_THAT(std::string(vorel_check(screen)), HasSubstr(R"("messages":[])"));
+  EXPECT_THAT(std::string(vorel_solve(screen, 0)), HasSubstr("Modelo M/M/s/K"));
+  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"("Tipo":{"text":"6"})"));
+  vorel_unload(screen);
+}
+
 TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {
   EXPECT_EQ(web::Json().value(std::string("a\"b\\c\r\n\t\x01")).str(), R"("a\"b\\c\r\n\t\u0001")");
 }

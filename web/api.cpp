@@ -86,6 +86,8 @@ const char* kindName(ui::ControlKind k) {
       return "check";
     case ui::ControlKind::Chart:
       return "chart";
+    case ui::ControlKind::ListBox:
+      return "listbox";
   }
   return "label";
 }
@@ -136,6 +138,7 @@ void writeList(Json& j, std::string_view key, const std::vector<T>& items) {
 
 void write(Json& j, const ui::Description& d) {
   j.open('{').field("name", d.name).field("heading", d.heading).field("intro", d.intro);
+  j.field("activate", d.activate);
   j.key("titleLabel");
   write(j, d.titleLabel);
   j.key("titleField");
@@ -229,7 +232,8 @@ EntryForm* form(const char* screen) {
 }
 
 // What every bound control of the screen shows: {"D": {"text": "1000"},
-// "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0}, ...}.
+// "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0},
+// "K": {"text": "", "enabled": false}, "Nu": {"toolTip": "..."}, ...}.
 void writeFields(Json& j, EntryForm& f) {
   j.open('{');
   f.each([&j](const ControlState& c) {
@@ -240,6 +244,8 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.checked) j.field("checked", *c.checked);
     if (c.color) j.field("color", platformColor(*c.color));
     if (c.marked) j.field("marked", *c.marked);
+    if (c.enabled) j.field("enabled", *c.enabled);
+    if (c.toolTip) j.field("toolTip", *c.toolTip);
     j.close('}');
   });
   j.close('}');

@@ -4,9 +4,11 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <algorithm>
 #include <map>
 #include <vector>
 
+#include "frame/gui/captions.h"
 #include "frame/gui/picture_button.h"
 #include "frame/gui/printing.h"
 #include "frame/gui/table_screen.h"
@@ -20,10 +22,23 @@ QString text(const std::string& s) { return QString::fromStdString(s); }
 QLabel* fieldLabel(QWidget* parent, const ui::Control& c) {
   auto* label = new QLabel(text(c.text), parent);
   label->setObjectName(text(c.name));
-  label->setWordWrap(c.width > 0);
-  if (c.width > 0) label->setMaximumWidth(c.width);
-  label->setStyleSheet("font-size: 10pt; color: #1A202C;");
+  label->setStyleSheet("QLabel { font-size: 10pt; color: #1A202C; } QLabel:disabled { color: #A0AEC0; }");
+  if (c.width > 0) wrapAtBlankRuns(label, c.width);
   return label;
+}
+
+// A list shown open: as tall as its lines, its items all in view.
+QListWidget* listBox(QWidget& screen, const ui::Control& c) {
+  auto* list = new QListWidget(&screen);
+  list->setObjectName(text(c.name));
+  for (const std::string& item : c.items) list->addItem(text(item));
+  list->setToolTip(text(c.toolTip));
+  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const int lines = std::max(1, c.height);
+  list->setFixedSize(c.width > 0 ? c.width : 64,
+                     lines * list->fontMetrics().height() + 2 * list->frameWidth() + 6);
+  return list;
 }
 
 QComboBox* selector(QWidget& screen, const ui::Control& c,
@@ -164,10 +179,17 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
       case ui::ControlKind::Selector:
         w = selector(screen, c, runEdit);
         break;
+      case ui::ControlKind::ListBox:
+        w = listBox(screen, c);
+        break;
       case ui::ControlKind::Option:
       case ui::ControlKind::Check: {
         auto* button = tick(screen, c, runEdit);
-        if (c.kind == ui::ControlKind::Option) {
+        // Options of no family are chosen by their edits alone, and may all
+        // stand unchosen.
+        if (c.kind == ui::ControlKind::Option && c.family.empty()) {
+          button->setAutoExclusive(false);
+        } else if (c.kind == ui::ControlKind::Option) {
           QButtonGroup*& family = families[c.family];
           if (!family) family = new QButtonGroup(&screen);
           family->addButton(button);

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QListWidget>
 #include <memory>
 #include <vector>
 
@@ -73,9 +74,13 @@ class DescribedEntry : public ModelEntry<Fields> {
         *b.index(f) = list->currentIndex();
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
         *b.text(f) = list->currentText().toStdString();
+      if (auto* list = qobject_cast<QListWidget*>(w); list && b.index)
+        *b.index(f) = list->currentRow();
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         *b.checked(f) = tick->isChecked();
       if (w && b.visible) *b.visible(f) = !w->isHidden();
+      if (w && b.enabled) *b.enabled(f) = w->isEnabledTo(this);
+      if (w && b.toolTip) *b.toolTip(f) = w->toolTip().toStdString();
     }
     return f;
   }
@@ -94,15 +99,23 @@ class DescribedEntry : public ModelEntry<Fields> {
         list->setCurrentIndex(*b.index(f));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)
         list->setCurrentText(QString::fromStdString(*b.text(f)));
+      if (auto* list = qobject_cast<QListWidget*>(w); list && b.index)
+        list->setCurrentRow(*b.index(f));
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         tick->setChecked(*b.checked(f));
       if (w && b.visible) w->setVisible(*b.visible(f));
+      if (w && b.enabled) w->setEnabled(*b.enabled(f));
+      if (w && b.toolTip) w->setToolTip(QString::fromStdString(*b.toolTip(f)));
       if (auto* box = qobject_cast<QLineEdit*>(w); box && b.marked) markCell(box, *b.marked(f));
     }
     showTables(drawn_);
     if (drawn_.table) fitToTable(*this);
   }
   const Form<Fields>& form() const { return form_; }
+  // Each arrival runs the description's edit of arrival, where it has one.
+  void formActivate() override {
+    if (!form_.entry.activate.empty()) Screen::run([this] { runEdit(form_.entry.activate); });
+  }
 
  protected:
   // The form's own model functions, which may differ from a file run's.
@@ -176,8 +189,13 @@ class DescribedSolution : public DescribedSolutionBase {
 
  protected:
   std::unique_ptr<Solution> solveWith(long stepBudget) override {
-    fields_ = entry<DescribedEntry<Fields>>().fields();
-    return form_.solve(fields_, stepBudget);
+    auto& entryScreen = entry<DescribedEntry<Fields>>();
+    fields_ = entryScreen.fields();
+    std::unique_ptr<Solution> solved = form_.solve(fields_, stepBudget);
+    // A solver works on the entry's own fields: what it changes there (the
+    // model it chose, the samples it removed) shows on the entry screen.
+    if (form_.solver) entryScreen.setFields(fields_);
+    return solved;
   }
   void readEntry() override { fields_ = entry<DescribedEntry<Fields>>().fields(); }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "frame/gui/captions.h"
 #include "frame/gui/menus.h"
 #include "frame/gui/table_screen.h"
 #include "frame/gui/picture_button.h"
@@ -60,21 +61,28 @@ EntryScreen::EntryScreen(const ui::Description& d) : Screen(d.name) {
   fields_->setHorizontalSpacing(16);
   fields_->setVerticalSpacing(8);
   body()->addLayout(fields_);
+  // Each text box at its place on the grid, its caption at the caption's.
   for (const ui::Control& c : d.controls)
     if (c.kind == ui::ControlKind::TextBox) {
       const ui::Control* caption = nullptr;
       for (const ui::Control& l : d.controls)
         if (l.kind == ui::ControlKind::Label && l.buddy == c.name) caption = &l;
-      // At its row of the grid, which other controls of the description may
-      // share; its caption takes the caption control's name, so both show
-      // and hide together.
-      QLineEdit* box = addField(QString::fromStdString(c.name),
-                                caption ? QString::fromStdString(caption->text) : QString(),
-                                QString::fromStdString(c.toolTip), c.row);
-      QWidget* label = fields_->itemAtPosition(gridRow(fields_, box), 0)->widget();
-      if (caption) label->setObjectName(QString::fromStdString(caption->name));
-      label->setVisible(c.visible);
+      auto* box = new QLineEdit(this);
+      box->setObjectName(QString::fromStdString(c.name));
+      box->setToolTip(QString::fromStdString(c.toolTip));
+      box->setFixedWidth(c.width > 0 ? c.width : 140);
+      box->setAlignment(Qt::AlignRight);
       box->setVisible(c.visible);
+      fields_->addWidget(box, c.row, c.column);
+      if (!caption) continue;
+      auto* label = styled(new QLabel(QString::fromStdString(caption->text), this),
+                           "QLabel { font-size: 10pt; color: #1A202C; }"
+                           " QLabel:disabled { color: #A0AEC0; }");
+      label->setObjectName(QString::fromStdString(caption->name));
+      if (caption->width > 0) wrapAtBlankRuns(label, caption->width);
+      label->setBuddy(box);
+      label->setVisible(caption->visible && c.visible);
+      fields_->addWidget(label, caption->row, caption->column);
     }
   body()->addStretch();
 

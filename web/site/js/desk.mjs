@@ -55,7 +55,7 @@ export class Desk {
         chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
         ticked: (control, checked, edit) => this.run(() => this.tick(name, control, checked, edit)),
       });
-      this.loaded.set(name, { element, solutions: form.solutions });
+      this.loaded.set(name, { element, solutions: form.solutions, arrival: form.entry.activate });
       return this.loaded.get(name);
     } else if (info.kind === 'solution') {
       const entry = this.load(info.entry);
@@ -114,11 +114,17 @@ export class Desk {
     }
   }
 
-  // Form_Activate: a solution screen computes and paints afresh; a method
+  // Form_Activate: an entry screen may edit its fields; a solution screen
+  // computes and paints afresh; a method
   // that may never end runs in slices, and while it runs only minimizar and
   // cerrar act.
   async activate(name) {
     const info = this.info.get(name);
+    // An entry screen runs its edit of arrival, where it has one.
+    if (info.kind === 'entry' && this.loaded.get(name).arrival) {
+      await this.run(() => this.runEdit(name, this.loaded.get(name).arrival));
+      return;
+    }
     if (info.kind !== 'solution') return;
     const screen = this.loaded.get(name);
     clearReport(screen.element.querySelector('.informe'));

@@ -80,6 +80,13 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
           style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
           onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
         }, c.items.map((item) => el('option', { textContent: item })));
+      case 'listbox':  // a list shown open, however short
+        return el('select', {
+          id: id(c.name), name: c.name, className: 'lista', size: Math.max(2, c.items.length),
+          title: c.toolTip || undefined, hidden: !c.visible,
+          style: `${place(c)}; --lineas: ${Math.max(1, c.height)}; width: ${c.width || 64}px`,
+          onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
+        }, c.items.map((item) => el('option', { textContent: item })));
       case 'option':
       case 'check':
         return el('label', { className: c.kind, style: place(c), hidden: !c.visible, title: c.toolTip || undefined, ...at(c) },
@@ -188,7 +195,8 @@ export function showCommands(screenElement, shown, offered) {
 }
 
 // Puts what each bound control shows on the screen: a text box's text, a
-// control's visibility, a selector's choice (after loading, nuevo, abrir, an edit).
+// control's visibility, a selector's choice, whether it is enabled, its
+// tool-tip (after loading, nuevo, abrir, an edit).
 export function showFields(screenElement, fields) {
   for (const [name, state] of Object.entries(fields)) {
     const control = screenElement.querySelector(`[name="${CSS.escape(name)}"]`);
@@ -205,6 +213,11 @@ export function showFields(screenElement, fields) {
     // An option or check box shows and hides with its caption.
     const shown = control.type === 'radio' || control.type === 'checkbox' ? control.closest('label') : control;
     if ('visible' in state) shown.hidden = !state.visible;
+    if ('enabled' in state) {
+      if (isInput) control.disabled = !state.enabled;
+      else control.classList.toggle('apagado', !state.enabled);  // a caption greys
+    }
+    if ('toolTip' in state) control.title = state.toolTip;
   }
   for (const table of screenElement.querySelectorAll('.tabla')) closeUpColumns(table);
   nameCells(screenElement);
