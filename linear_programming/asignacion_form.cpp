@@ -20,12 +20,13 @@ class AsignacionSolucion : public Solution {
 
   bool shows(std::string_view command) const override {
     const AsignacionComandos c = comandos(results_.numSoluciones, pagina_);
-    return (command == "forward1" && c.forward1) || (command == "forward2" && c.forward2) ||
-           (command == "back2" && c.back2) || (command == "Back1" && c.Back1);
+    return command == "volver" || (command == "forward1" && c.forward1) ||
+           (command == "forward2" && c.forward2) || (command == "back2" && c.back2) ||
+           (command == "Back1" && c.Back1);
   }
 
   bool press(std::string_view command) override {
-    if (!shows(command)) return false;
+    if (command == "volver" || !shows(command)) return false;
     pagina_ = command == "Back1" ? 1 : command == "forward2" ? 3 : 2;
     pages_.screen = report(fields_, results_, pagina_);
     return true;

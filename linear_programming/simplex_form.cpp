@@ -23,7 +23,7 @@ class SimplexSolucion : public Solution {
   bool shows(std::string_view command) const override {
     if (command == "forward") return results_.forwardAvailable;
     if (command == "back") return results_.backAvailable;
-    return false;
+    return command == "volver";  // greyed where the page withholds it (offers)
   }
 
   bool offers(std::string_view command) const override {

@@ -68,9 +68,9 @@ TEST_F(WebApi, LoadingDescribesTheScreensAndStartsFromThePresets) {
                                 R"("dias":{"text":""},"P":{"text":""}})"));
   EXPECT_THAT(loaded, HasSubstr(R"j("text":"Tiempo de suministro (en días)")j"));
   EXPECT_THAT(loaded, HasSubstr(R"("name":"Solucion1")"));
-  EXPECT_THAT(std::string(vorel_load("PL_Simplex")), HasSubstr(R"("error")"));
+  EXPECT_THAT(std::string(vorel_load(findModel("mrp")->screen.c_str())), HasSubstr(R"("error")"));
   EXPECT_FALSE(vorel_set(kEoq, "Q", "1"));
-  EXPECT_FALSE(vorel_set("PL_Simplex", "D", "1"));
+  EXPECT_FALSE(vorel_set(findModel("mrp")->screen.c_str(), "D", "1"));
 }
 
 TEST_F(WebApi, AnOpenedExampleSolvesToItsGoldenTextAndSavesToTheSameBytes) {
@@ -343,7 +343,7 @@ TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   for (int a = 0; a < 5; ++a)
     ASSERT_TRUE(vorel_set(screen, ("TiempoOperacion(" + std::to_string(a) + ")").c_str(), "3"));
   ASSERT_TRUE(vorel_set(screen, "C1(0)", "2"));
-  EXPECT_EQ(std::string(vorel_check(screen)), R"({"messages":[]})");
+  EXPECT_THAT(std::string(vorel_check(screen)), HasSubstr(R"({"messages":[],)"));
   EXPECT_THAT(std::string(vorel_solve(screen, 1)), HasSubstr(R"j("doesNotEnd":true)j"));
   EXPECT_THAT(std::string(vorel_solve(screen, 2)), HasSubstr(R"j("text":"Número de actividades")j"));
   std::string file = example("equilibrado/libro.txt");

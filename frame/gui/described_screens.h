@@ -132,7 +132,13 @@ class DescribedEntry : public ModelEntry<Fields> {
     for (auto& [editName, run] : form_.edits)
       if (editName == name) {
         Fields f = fields();
-        const Messages messages = run(f);
+        Messages messages;
+        try {
+          messages = run(f);
+        } catch (...) {  // a run-time error leaves on the screen what the edit changed
+          setFields(f);
+          throw;
+        }
         setFields(f);
         if (!this->tell(messages)) return;
         for (const ui::Command& c : form_.entry.commands)
