@@ -1,4 +1,6 @@
 // Vorel's site in Debian's chromium, headless, served on 127.0.0.1.
+import { before, after } from 'node:test';
+import assert from 'node:assert/strict';
 import { chromium } from 'playwright-core';
 import { fileURLToPath } from 'node:url';
 import { serve } from '../serve.mjs';
@@ -85,4 +87,22 @@ export async function abrir(page, path) {
   const [chooser] = await Promise.all([page.waitForEvent('filechooser'), press(page, 'abrir')]);
   await chooser.setFiles(path);
   await page.evaluate(() => window.vorel.reading);
+}
+
+// A test file's site: opened before its tests, the screen tree read, and
+// closed after them with no error thrown in the page. `ready` receives
+// {site, page, paths}.
+export function useSite(ready) {
+  let site;
+  before(async () => {
+    site = await openSite();
+    const { page } = site;
+    await page.goto(site.url);
+    await page.waitForFunction(() => Boolean(window.vorel?.tree));
+    ready({ site, page, paths: menuPaths(await page.evaluate(() => window.vorel.tree)) });
+  });
+  after(async () => {
+    assert.deepEqual(site.errors, []);
+    await site.close();
+  });
 }

@@ -2,26 +2,16 @@
 // arrows (volver only from the first page, Alfa read as it stands), the
 // payoff tables reshaped by Rediseñar Tabla with "Ps" over the row of
 // probabilities, and the ELECTRE heads in their colours.
-import { test, before, after } from 'node:test';
+import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import {
-  openSite, press, onView, root, menuPaths, openModel as openModelAt, abrir as abrirIn,
+  useSite, press, onView, root, openModel as openModelAt, abrir as abrirIn,
 } from './browser.mjs';
 
 let site;
 let page;
 let paths;
-before(async () => {
-  site = await openSite();
-  ({ page } = site);
-  await page.goto(site.url);
-  await page.waitForFunction(() => Boolean(window.vorel?.tree));
-  paths = menuPaths(await page.evaluate(() => window.vorel.tree));
-});
-after(async () => {
-  assert.deepEqual(site.errors, []);
-  await site.close();
-});
+useSite((opened) => ({ site, page, paths } = opened));
 
 const openModel = (screen) => openModelAt(site, paths[screen], screen);
 const abrir = (id, file) => abrirIn(page, `${root}/examples/${id}/${file}`);

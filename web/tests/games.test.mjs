@@ -3,24 +3,14 @@
 // pure equilibria, a refused game hides the panels, nuevo blanks the screen;
 // Rediseñar tabla reshapes the table of games with n strategies and keeps
 // what hidden cells hold.
-import { test, before, after } from 'node:test';
+import { test } from 'node:test';
 import assert from 'node:assert/strict';
-import { openSite, press, onView, root, menuPaths, openModel, messageBox, abrir } from './browser.mjs';
+import { useSite, press, onView, root, openModel, messageBox, abrir } from './browser.mjs';
 
 let site;
 let page;
 let paths;
-before(async () => {
-  site = await openSite();
-  ({ page } = site);
-  await page.goto(site.url);
-  await page.waitForFunction(() => Boolean(window.vorel?.tree));
-  paths = menuPaths(await page.evaluate(() => window.vorel.tree));
-});
-after(async () => {
-  assert.deepEqual(site.errors, []);
-  await site.close();
-});
+useSite((opened) => ({ site, page, paths } = opened));
 
 const open = (screen) => openModel(site, paths[screen], screen);
 const panel = (name) => onView(page, 'Juegos_2').locator(`[name="${name}"]`);

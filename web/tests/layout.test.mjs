@@ -4,26 +4,16 @@
 // lower table brings its captions with its first activity, and a cycle of
 // precedences runs in slices until cerrar, leaving the page free for the next
 // problem.
-import { test, before, after } from 'node:test';
+import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import {
-  openSite, press, onView, root, menuPaths, openModel, abrir,
+  useSite, press, onView, root, openModel, abrir,
 } from './browser.mjs';
 
 let site;
 let page;
 let paths;
-before(async () => {
-  site = await openSite();
-  ({ page } = site);
-  await page.goto(site.url);
-  await page.waitForFunction(() => Boolean(window.vorel?.tree));
-  paths = menuPaths(await page.evaluate(() => window.vorel.tree));
-});
-after(async () => {
-  assert.deepEqual(site.errors, []);
-  await site.close();
-});
+useSite((opened) => ({ site, page, paths } = opened));
 
 const CARGA = 'Distribucion_CargaDistancia';
 const EQUILIBRADO = 'Distribucion_Equlibrado';

@@ -2,26 +2,16 @@
 // (Rediseñar, a selector's choice), the durations chosen by their text, the
 // options that show the third option and choose the solution screen, and the
 // chart on screen and on the printed page.
-import { test, before, after } from 'node:test';
+import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import {
-  openSite, press, onView, root, menuPaths, openModel, abrir,
+  useSite, press, onView, root, openModel, abrir,
 } from './browser.mjs';
 
 let site;
 let page;
 let paths;
-before(async () => {
-  site = await openSite();
-  ({ page } = site);
-  await page.goto(site.url);
-  await page.waitForFunction(() => Boolean(window.vorel?.tree));
-  paths = menuPaths(await page.evaluate(() => window.vorel.tree));
-});
-after(async () => {
-  assert.deepEqual(site.errors, []);
-  await site.close();
-});
+useSite((opened) => ({ site, page, paths } = opened));
 
 const open = (screen) => openModel(site, paths[screen], screen);
 const control = (screen, name) => onView(page, screen).locator(`[name="${name}"]`);
@@ -104,8 +94,11 @@ test('the options show the third option; the solution draws its chart and prints
   assert.equal(height, 1047, 'a chart page is a page of its own');
 
   // Back to two options: the screen of two options, and the third option's fields hidden.
+  // cerrar unloads the screens: a problem of three options is opened again.
   await press(page, 'cerrar');
   await open('Select_C_Totales');
+  await abrir(page, `${root}/examples/costes-totales/tres-opciones.txt`);
+  assert.equal(await hidden('Select_C_Totales', 'txtCF3'), false);
   await control('Select_C_Totales', 'Option1').check();
   assert.equal(await hidden('Select_C_Totales', 'txtCF3'), true);
   await press(page, 'Resolver');

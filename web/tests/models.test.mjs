@@ -18,7 +18,9 @@ before(async () => {
   await page.waitForFunction(() => Boolean(window.vorel?.tree));
   const tree = await page.evaluate(() => window.vorel.tree);
   const paths = menuPaths(tree);
-  models = tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model)
+  const only = process.env.VOREL_MODELS?.split(',');  // a few models only, while working on them
+  models = tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model
+    && (!only || only.includes(s.model)))
     .map((s) => ({ id: s.model, screen: s.name, path: paths[s.name], presses: s.presses, solution: s.solutions[0] }));
 });
 after(async () => {
@@ -29,7 +31,7 @@ after(async () => {
 const golden = (id, name, kind) => readFileSync(`${root}/tests/golden/${id}/${name}.${kind}`, 'utf8');
 
 test('every described model is reached through the menus', () => {
-  assert.ok(models.length >= 4);
+  assert.ok(models.length >= (process.env.VOREL_MODELS ? 1 : 20));
   for (const model of models) assert.ok(model.path, `${model.screen} has a way in`);
 });
 
@@ -54,8 +56,13 @@ async function runExamples(model) {
     if (!told) await press(page, 'Resolver');
     const report = golden(model.id, name, 'report');
     if (report.startsWith('[salida 1]\n')) {
-      assert.deepEqual(await messageBox(page), { title: 'Error', text: report.split('\n')[1] }, file);
-      await page.keyboard.press('Escape');
+      // Every message of the checks, one box after another.
+      for (const text of report.split('\n').slice(1).filter(Boolean)) {
+        assert.deepEqual(await messageBox(page), { title: 'Error', text }, file);
+        const box = await page.locator('dialog.caja[open]').elementHandle();
+        await page.keyboard.press('Escape');
+        await page.waitForFunction((shown) => !shown.isConnected, box);
+      }
       await page.locator('dialog.caja').waitFor({ state: 'detached' });
       continue;
     }

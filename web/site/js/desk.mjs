@@ -53,7 +53,8 @@ export class Desk {
       element = entryScreen(info, form.entry, form.fields, press, {
         typed: (control, text) => this.core.set(name, control, text),
         chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
-        ticked: (control, checked, edit) => this.run(() => this.tick(name, control, checked, edit)),
+        ticked: (control, checked, edit, unticked) =>
+          this.run(() => this.tick(name, control, checked, edit, unticked)),
       });
       this.loaded.set(name, { element, solutions: form.solutions, arrival: form.entry.activate });
       return this.loaded.get(name);
@@ -239,8 +240,10 @@ export class Desk {
     if (edit) await this.runEdit(name, edit);
   }
 
-  // An option's or a check box's click: the tick, then its edit.
-  async tick(name, control, checked, edit) {
+  // An option's or a check box's click: the tick (an option's family loses
+  // theirs), then its edit.
+  async tick(name, control, checked, edit, unticked = []) {
+    for (const other of unticked) this.core.setChecked(name, other, false);
     this.core.setChecked(name, control, checked);
     if (edit) await this.runEdit(name, edit);
   }

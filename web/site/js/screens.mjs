@@ -92,7 +92,10 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
         return el('label', { className: c.kind, style: place(c), hidden: !c.visible, title: c.toolTip || undefined, ...at(c) },
           el('input', {
             type: c.kind === 'option' ? 'radio' : 'checkbox', id: id(c.name), name: c.name,
-            onchange: (e) => ticked(c.name, e.target.checked, c.edit),
+            // An option ticked unticks the others of its family, as it shows.
+            onchange: (e) => ticked(c.name, e.target.checked, c.edit, c.kind === 'option' && c.family
+              ? d.controls.filter((o) => o.kind === 'option' && o.family === c.family && o !== c).map((o) => o.name)
+              : []),
           }), c.text);
       case 'report':  // a panel a command prints lines on, its text bound to the fields
         return el('pre', {
@@ -133,7 +136,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
   const screen = windowFrame(ownChrome(info, d), d.heading, press,
     d.intro && el('p', { className: 'intro', textContent: d.intro }), title,
     el('div', { className: 'campos' }, group(0), edits),
-    d.tablesAcross ? el('div', { className: 'tablas' }, tables.map((t) => el('div', {}, ...t))) : tables.flat(),
+    d.tablesAcross ? el('div', { className: 'tablas' }, tables.map((t) => el('div', {}, ...t))) : tables.flat(2),
     commands);
   showFields(screen, fields);
   return screen;
