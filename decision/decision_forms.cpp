@@ -14,18 +14,6 @@ namespace {
 
 constexpr int kAnchoCelda = 96;  // the cells' and the column heads' width
 
-ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  return c;
-}
-
 std::string elemento(const std::string& array, std::size_t i) {
   return array + "(" + std::to_string(i) + ")";
 }

@@ -233,4 +233,17 @@ Description reportSolution(std::string_view screen, std::string heading, int col
   return d;
 }
 
+Control control(ControlKind kind, std::string name, std::string text, int group, int row,
+                int column, int width) {
+  Control c;
+  c.kind = kind;
+  c.name = std::move(name);
+  c.text = std::move(text);
+  c.group = group;
+  c.row = row;
+  c.column = column;
+  c.width = width;
+  return c;
+}
+
 }  // namespace vorel::ui

@@ -101,6 +101,11 @@ struct Description {
   std::string activate;
 };
 
+// A control of `kind` at its place on a grid of the screen (see Control).
+// `width` as Control::width says.
+Control control(ControlKind kind, std::string name, std::string text, int group, int row,
+                int column, int width = 0);
+
 // The texts of the frame that every screen shares.
 inline constexpr char kTituloCaption[] = "TÍTULO DEL PROBLEMA";
 inline constexpr char kTituloToolTip[] = "Título del Problema";

@@ -6,18 +6,6 @@ namespace vorel::games {
 
 namespace {
 
-ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  return c;
-}
-
 // The panels show what the commands printed on them, and the cells that the
 // shown panel of EstPuras lists stand apart; nuevo, which hides the panel,
 // sets every cell back.

@@ -6,18 +6,6 @@ namespace {
 
 using F = JuegosNFields;
 
-ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  return c;
-}
-
 // A number of strategies: its caption, then the list "1" to "8".
 void numero(Form<F>& form, int row, const std::string& name, const std::string& caption,
             const std::string& toolTip, int F::*member) {

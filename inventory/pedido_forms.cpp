@@ -100,18 +100,6 @@ const Form<RupturaFields>& rupturaForm() {
 
 namespace {
 
-ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  return c;
-}
-
 Messages intervalosClick(DescuentoFields& f) {
   cmbIntervalosClick(f);
   return {};

@@ -10,18 +10,6 @@ namespace vorel::facility {
 
 namespace {
 
-ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  return c;
-}
-
 // The element `i` of a control array: "C1(0)".
 std::string element(const std::string& array, int i) {
   return array + "(" + std::to_string(i) + ")";

@@ -56,7 +56,7 @@ Messages rediseñarClick(F& f) {
 }
 
 Form<F> build() {
-  using tabla::control;
+  using ui::control;
   constexpr int kWidth = 84;
   Form<F> form;
   form.entry = ui::fieldEntry("PL_Asignación", kAsignacionCaption, "", "Título", "Problema 1", {});

@@ -66,7 +66,7 @@ std::vector<std::string> itemsOf(const auto& list) {
 }
 
 Form<F> build() {
-  using tabla::control;
+  using ui::control;
   constexpr int kWidth = 76;
   Form<F> form;
   form.entry = ui::fieldEntry("PL_Simplex", kSimplexCaption, kSimplexIntro, "Título", "Problema 1", {});

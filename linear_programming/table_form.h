@@ -11,19 +11,6 @@
 
 namespace vorel::linear_programming::tabla {
 
-inline ui::Control control(ui::ControlKind kind, std::string name, std::string text, int group,
-                           int row, int column, int width = 0) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  c.width = width;
-  return c;
-}
-
 // The list "1".."count".
 inline std::vector<std::string> numbers(int count) {
   std::vector<std::string> items;

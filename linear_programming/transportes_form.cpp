@@ -24,7 +24,7 @@ class TransportesSolucion : public Solution {
 };
 
 Form<F> build() {
-  using tabla::control;
+  using ui::control;
   constexpr int kWidth = 84;
   Form<F> form;
   form.entry = ui::fieldEntry("PL_Transportes", kTransportesCaption, kTransportesIntro, "Título",

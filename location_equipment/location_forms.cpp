@@ -12,19 +12,6 @@ namespace {
 
 using ui::ControlKind;
 
-ui::Control control(ControlKind kind, std::string name, std::string text, int group, int row,
-                    int column, int width = 0) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.group = group;
-  c.row = row;
-  c.column = column;
-  c.width = width;
-  return c;
-}
-
 // A selector of the counts `first` to `last` on the fields' grid at `row`,
 // with its caption in the column before it.
 void selectorDeNumero(ui::Description& d, const std::string& name, const std::string& caption,

@@ -9,7 +9,7 @@ namespace {
 using ui::ControlKind;
 using F = ColasFields;
 
-ui::Control control(ControlKind kind, std::string name, std::string text, int row, int column,
+ui::Control fieldControl(ControlKind kind, std::string name, std::string text, int row, int column,
                     int width = 0) {
   ui::Control c;
   c.kind = kind;
@@ -24,13 +24,13 @@ ui::Control control(ControlKind kind, std::string name, std::string text, int ro
 // A caption naming the control `buddy`; a width breaks it at its runs of blanks.
 ui::Control caption(std::string name, std::string text, std::string buddy, int row,
                     int width = 0) {
-  ui::Control c = control(ControlKind::Label, std::move(name), std::move(text), row, 0, width);
+  ui::Control c = fieldControl(ControlKind::Label, std::move(name), std::move(text), row, 0, width);
   c.buddy = std::move(buddy);
   return c;
 }
 
 ui::Control box(std::string name, int row) {
-  return control(ControlKind::TextBox, std::move(name), "", row, 1, 96);
+  return fieldControl(ControlKind::TextBox, std::move(name), "", row, 1, 96);
 }
 
 template <int sistema>
@@ -60,13 +60,13 @@ Form<F> build() {
   auto& c = form.entry.controls;
 
   // The kind of system and the sizes it asks for.
-  c.push_back(control(ControlKind::Label, "", "Tipo de sistema", 0, 0));
+  c.push_back(fieldControl(ControlKind::Label, "", "Tipo de sistema", 0, 0));
   const char* opciones[][2] = {{"ColaIlimitada", "Línea de Espera Ilimitada"},
                                {"ColaLimitada", "Línea de Espera Limitada"},
                                {"FuenteFinita", "Fuente de Entrada Finita"}};
   for (int i = 0; i < 3; ++i) {
     // No family: the fields keep the choice, so a file may leave none chosen.
-    ui::Control o = control(ControlKind::Option, opciones[i][0], opciones[i][1], 1 + i, 0);
+    ui::Control o = fieldControl(ControlKind::Option, opciones[i][0], opciones[i][1], 1 + i, 0);
     o.edit = opciones[i][0];
     c.push_back(std::move(o));
   }
@@ -76,28 +76,28 @@ Form<F> build() {
   c.push_back(box("N", 5));
 
   // The distributions of the times between arrivals and between services.
-  c.push_back(control(ControlKind::Label, "", "Distribuciones", 6, 0));
+  c.push_back(fieldControl(ControlKind::Label, "", "Distribuciones", 6, 0));
   c.push_back(caption("", "Distribución tiempo entre llegadas", "LLegadas", 7));
-  ui::Control llegadas = control(ControlKind::ListBox, "LLegadas", "", 7, 1, 64);
+  ui::Control llegadas = fieldControl(ControlKind::ListBox, "LLegadas", "", 7, 1, 64);
   llegadas.items.assign(kLLegadas.begin(), kLLegadas.end());
   llegadas.height = 1;
   c.push_back(std::move(llegadas));
   c.push_back(caption("", "Distribución tiempo entre servicios", "Servicios", 8));
-  ui::Control servicios = control(ControlKind::Selector, "Servicios", "", 8, 1, 64);
+  ui::Control servicios = fieldControl(ControlKind::Selector, "Servicios", "", 8, 1, 64);
   for (const Servicio& s : kServicios) servicios.items.push_back(s.item);
   servicios.edit = "Servicios";
   c.push_back(std::move(servicios));
 
   // The rates, the servers and the variance.
-  c.push_back(control(ControlKind::Label, "", "Parámetros", 9, 0));
+  c.push_back(fieldControl(ControlKind::Label, "", "Parámetros", 9, 0));
   c.push_back(caption("", " Número de  Servidores", "S", 10));
   c.push_back(box("S", 10));
   c.push_back(caption("", " Tasa de Llegadas", "Lambda", 11));
   c.push_back(box("Lambda", 11));
-  c.push_back(control(ControlKind::Label, "", "Accesos/unidad de           tiempo", 11, 2, 80));
+  c.push_back(fieldControl(ControlKind::Label, "", "Accesos/unidad de           tiempo", 11, 2, 80));
   c.push_back(caption("LblNu", "Tasa de Servicios", "Nu", 12));
   c.push_back(box("Nu", 12));
-  c.push_back(control(ControlKind::Label, "", "Servicios/unidad de           tiempo", 12, 2, 80));
+  c.push_back(fieldControl(ControlKind::Label, "", "Servicios/unidad de           tiempo", 12, 2, 80));
   c.push_back(caption("LblVar", "Varianza", "VarTS", 13));
   c.push_back(box("VarTS", 13));
 
