@@ -68,13 +68,8 @@ void selectorNumerico(Form<F>& form, std::type_identity_t<int F::*> member, cons
 // RediseñarTabla: reshapes the table to the numbers chosen in the selectors.
 template <class F>
 void rediseñarTabla(Form<F>& form) {
-  ui::Command c;
-  c.name = "RediseñarTabla";
-  c.caption = "Rediseñar Tabla";
-  c.action = ui::Action::Edit;
-  c.target = c.name;
-  form.entry.commands.push_back(c);
-  form.edits.push_back({c.name, [](F& f) { return rediseñar(f); }});
+  form.entry.commands.push_back(ui::editCommand("RediseñarTabla", "Rediseñar Tabla"));
+  form.edits.push_back({"RediseñarTabla", [](F& f) { return rediseñar(f); }});
 }
 
 // A column head of the table, over column `k + 1`.
@@ -171,14 +166,7 @@ ui::Description paginas(std::string_view entry, std::string heading, int columns
                          lines);
   std::vector<ui::Command> arrows;
   for (const Flecha& f : flechas) {
-    ui::Command c;
-    c.name = f.name;
-    c.toolTip = c.caption = f.toolTip;
-    c.picture = f.picture;
-    c.action = ui::Action::Browse;
-    c.visible = visible(c.name);
-    c.size = 40;
-    arrows.push_back(c);
+    arrows.push_back(ui::browseCommand(f.name, f.picture, f.toolTip, visible(f.name)));
   }
   d.commands.insert(d.commands.begin(), arrows.begin(), arrows.end());
   return d;

@@ -30,7 +30,8 @@ struct ModelFunctions {
 // A control bound to the fields: where its text, its visibility, its list
 // index, its tick, whether it is enabled and its tool-tip live (each where the
 // control has one); a label's back colour, as the platform stores it (a Long
-// with red in the lowest byte); whether a cell is marked.
+// with red in the lowest byte); whether a cell is marked; the items of a list
+// that grows and shrinks with the fields.
 template <class Fields>
 struct Binding {
   std::string control;
@@ -44,6 +45,7 @@ struct Binding {
   // A cell set apart by what a command found in it (an equilibrium); it
   // reads it, never changes it.
   std::function<bool*(Fields&)> marked = {};
+  std::function<std::vector<std::string>*(Fields&)> items = {};
 };
 
 // A text box that shows a member.
@@ -133,6 +135,7 @@ struct ControlState {
   const std::string* toolTip;
   const long* color;
   const bool* marked;
+  const std::vector<std::string>* items;
 };
 
 // An entry screen's fields while it is loaded, behind commands by name.
@@ -192,7 +195,7 @@ class FieldsForm : public EntryForm {
              b.visible ? b.visible(fields_) : nullptr, b.index ? b.index(fields_) : nullptr,
              b.checked ? b.checked(fields_) : nullptr, b.enabled ? b.enabled(fields_) : nullptr,
              b.toolTip ? b.toolTip(fields_) : nullptr, b.color ? b.color(fields_) : nullptr,
-             b.marked ? b.marked(fields_) : nullptr});
+             b.marked ? b.marked(fields_) : nullptr, b.items ? b.items(fields_) : nullptr});
   }
   bool setText(std::string_view control, std::string text) override {
     const Binding<Fields>* b = form_.binding(control);

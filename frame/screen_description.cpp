@@ -185,6 +185,29 @@ Description menu(const nav::MenuInfo& m, bool (*available)(std::string_view scre
   return d;
 }
 
+Command editCommand(std::string name, std::string caption, std::string target,
+                    std::string toolTip) {
+  Command c;
+  c.target = target.empty() ? name : std::move(target);
+  c.name = std::move(name);
+  c.caption = std::move(caption);
+  c.toolTip = std::move(toolTip);
+  c.action = Action::Edit;
+  return c;
+}
+
+Command browseCommand(std::string name, std::string picture, std::string toolTip,
+                      bool visible) {
+  Command c;
+  c.name = std::move(name);
+  c.caption = c.toolTip = std::move(toolTip);
+  c.picture = std::move(picture);
+  c.action = Action::Browse;
+  c.visible = visible;
+  c.size = 40;
+  return c;
+}
+
 Description fieldEntry(std::string_view screen, std::string heading, std::string intro,
                        std::string titleName, std::string titlePreset,
                        const std::vector<FieldLabel>& fields) {

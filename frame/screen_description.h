@@ -77,10 +77,13 @@ struct Control {
   // page's width asks).
   int width = 0, height = 0;
   bool visible = true;
+  bool locked = false;  // a cell the program fills, never typed into
   std::vector<std::string> items;  // a selector's list
   // A selector, option or check box: the edit of the fields its click runs
   // (see Form::edits), after the click has set its index or its tick.
   std::string edit;
+  // The edit its taking the focus runs (a list that brings its group to its row).
+  std::string focusEdit;
   std::string family;  // an option: the set of options it excludes the others of
 };
 
@@ -105,6 +108,15 @@ struct Description {
 // `width` as Control::width says.
 Control control(ControlKind kind, std::string name, std::string text, int group, int row,
                 int column, int width = 0);
+
+// An entry screen's command beside its fields that runs the edit `target`
+// (its own name where empty) as Rediseñar does.
+Command editCommand(std::string name, std::string caption, std::string target = "",
+                    std::string toolTip = "");
+
+// A solution screen's browsing arrow, its tool-tip also its caption.
+Command browseCommand(std::string name, std::string picture, std::string toolTip,
+                      bool visible = false);
 
 // The texts of the frame that every screen shares.
 inline constexpr char kTituloCaption[] = "TÍTULO DEL PROBLEMA";

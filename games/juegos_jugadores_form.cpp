@@ -39,14 +39,7 @@ Messages estMixtasP(P& p) {
   return m;
 }
 
-ui::Command orden(const char* name, const char* caption) {
-  ui::Command c;
-  c.name = name;
-  c.caption = caption;
-  c.action = ui::Action::Edit;
-  c.target = name;
-  return c;
-}
+ui::Command orden(const char* name, const char* caption) { return ui::editCommand(name, caption); }
 
 // `J` players: a row of the table for each choice of decisions, in the order
 // of the report, with a column of payoffs for each player; below it the two

@@ -41,13 +41,9 @@ Form<F> construir() {
          "Número de decisiones que puede tomar Jugador 1", &F::NDecA);
   numero(form, 1, "NDecB", "Estrategias del Jugador 2",
          "Número de Decisiones que puede tomar Jugador 2", &F::NDecB);
-  ui::Command rediseñarCmd;
-  rediseñarCmd.name = "Rediseñar";
-  rediseñarCmd.caption = "Rediseñar tabla";
-  rediseñarCmd.toolTip = "Ajusta la tabla al número de decisiones deseadas";
-  rediseñarCmd.action = ui::Action::Edit;
-  rediseñarCmd.target = "Rediseñar";
-  form.entry.commands.insert(form.entry.commands.begin(), rediseñarCmd);
+  form.entry.commands.insert(form.entry.commands.begin(),
+                             ui::editCommand("Rediseñar", "Rediseñar tabla", "",
+                                             "Ajusta la tabla al número de decisiones deseadas"));
   form.edits.push_back({"Rediseñar", rediseñarTabla});
 
   // The table: player 1's strategies A down the rows, player 2's B across.

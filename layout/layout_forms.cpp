@@ -28,14 +28,7 @@ void numberSelector(ui::Description& d, int row, const std::string& name,
   d.controls.push_back(selector);
 }
 
-ui::Command rediseñarTabla() {
-  ui::Command c;
-  c.name = "RediseñarTabla";
-  c.caption = "Rediseñar Tabla";
-  c.action = ui::Action::Edit;
-  c.target = "rediseñar";
-  return c;
-}
+ui::Command rediseñarTabla() { return ui::editCommand("RediseñarTabla", "Rediseñar Tabla", "rediseñar"); }
 
 template <class F>
 Messages rediseñarClick(F& f) {

@@ -43,15 +43,7 @@ class SimplexSolucion : public Solution {
 };
 
 ui::Command browse(const char* name, const char* picture, const char* toolTip) {
-  ui::Command c;
-  c.name = name;
-  c.toolTip = toolTip;
-  c.caption = toolTip;
-  c.picture = picture;
-  c.action = ui::Action::Browse;
-  c.visible = false;
-  c.size = 40;
-  return c;
+  return ui::browseCommand(name, picture, toolTip);
 }
 
 Messages rediseñarClick(F& f) {

@@ -28,11 +28,7 @@ void selectorDeNumero(ui::Description& d, const std::string& name, const std::st
 
 // Rediseñar: the command beside the fields that runs the edit of that name.
 ui::Command rediseñarCommand(std::string toolTip = "") {
-  ui::Command c;
-  c.name = c.caption = c.target = "Rediseñar";
-  c.toolTip = std::move(toolTip);
-  c.action = ui::Action::Edit;
-  return c;
+  return ui::editCommand("Rediseñar", "Rediseñar", "", std::move(toolTip));
 }
 
 template <class F>

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "productivity/curvas_experiencia_form.h"
 
 namespace vorel::productivity {
 
@@ -125,8 +126,7 @@ void exchange(ProblemFile& file, ExperienciaFields& f) {
 }
 
 CatalogueEntry catalogueExperiencia() {
-  return catalogued<ExperienciaFields>("curvas-experiencia", "C_Experiencia", "", exchange, check,
-                                       solveAndReport);
+  return catalogued("curvas-experiencia", experienciaForm());
 }
 
 }  // namespace vorel::productivity

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "productivity/productividad_global_form.h"
 
 namespace vorel::productivity {
 
@@ -262,8 +263,7 @@ void exchange(ProblemFile& file, ProductividadGlobalFields& f) {
 }
 
 CatalogueEntry catalogueProductividadGlobal() {
-  return catalogued<ProductividadGlobalFields>("productividad-global", "Productividad_Global", "",
-                                               exchange, check, solveAndReport);
+  return catalogued("productividad-global", productividadGlobalForm());
 }
 
 }  // namespace vorel::productivity

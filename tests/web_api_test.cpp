@@ -133,23 +133,6 @@ TEST_F(WebApi, ARunTimeErrorComesBackAsTheBoxThePlatformShows) {
 
 // The discount table: a selector whose click shows the rows of the chosen
 // number of intervals, cells with their visibility, row headings.
-TEST(WebApiTable, TheSelectorsClickShowsTheChosenRows) {
-  const char* screen = "GI_CEPDescuento";
-  const std::string loaded = vorel_load(screen);
-  EXPECT_THAT(loaded, HasSubstr(R"("kind":"selector","name":"cmbIntervalos")"));
-  EXPECT_THAT(loaded, HasSubstr(R"("items":["2","3","4"])"));
-  EXPECT_THAT(loaded, HasSubstr(R"("cmbIntervalos":{"index":0},"Intervalo1":{"visible":true},)"));
-  EXPECT_THAT(loaded, HasSubstr(R"("C1":{"text":"","visible":false})"));
-  ASSERT_TRUE(vorel_set_index(screen, "cmbIntervalos", 1));
-  EXPECT_FALSE(vorel_set_index(screen, "D", 1));
-  const std::string edited = vorel_edit(screen, "cmbIntervalos");
-  EXPECT_THAT(edited, HasSubstr(R"({"messages":[],"fields":{)"));
-  EXPECT_THAT(edited, HasSubstr(R"("Intervalo3":{"visible":true},"C1":{"text":"","visible":true})"));
-  EXPECT_THAT(edited, HasSubstr(R"("Intervalo4":{"visible":false},"D1":{"text":"","visible":false})"));
-  EXPECT_THAT(std::string(vorel_edit(screen, "Rediseñar")), HasSubstr(R"("error")"));
-  vorel_unload(screen);
-}
-
 // Total costs: the options tick one another off, and Resolver shows the
 // screen of two options or of three as they say.
 TEST(WebApiOptions, TheTickedOptionChoosesTheSolutionScreen) {
@@ -206,48 +189,6 @@ class Loaded {
 
 using Shown = std::set<std::string>;
 
-// Decisions under uncertainty: each page shows its own arrows and volver
-// only the first; where forward2 and NoContinuar2 lead depends on Alfa as it
-// stands in the fields at the click, not at the activation.
-TEST(WebApiBrowsing, UncertaintyPagesOfferTheirArrowsAndReadAlfaAtTheClick) {
-  const char* screen = "DecisionIncertidumbre";
-  Loaded loaded(screen, "incertidumbre/libro.txt");
-  const std::string solved = vorel_solve(screen, 0);
-  EXPECT_THAT(screenText(solved), HasSubstr("CRITERIO DE WALD, MAXIMÍN O PESIMISTA"));
-  EXPECT_EQ(shownCommands(solved), (Shown{"forward1", "volver"}));
-  struct Step {
-    const char* alfa;  // typed before the click; null: as it stands
-    const char* command;
-    const char* page;  // what the page painted says
-    Shown shown;
-  } steps[] = {
-      {nullptr, "forward1", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
-      {nullptr, "forward2", "CRITERIO DE SAVAGE", {"Continuar1", "Continuar2"}},
-      {nullptr, "Continuar1", "CRITERIO DE HURWICZ", {"NoContinuar2"}},
-      {"abc", "NoContinuar2", "CRITERIO DE SAVAGE", {"NoContinuar"}},
-      {nullptr, "NoContinuar", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
-      {"0.5", "forward2", "CRITERIO DE SAVAGE", {"Continuar1", "Continuar2"}},
-      {nullptr, "Continuar2", " CRITERIO MAXIMAX U OPTIMISTA", {"Back1", "forward2"}},
-      {nullptr, "Back1", "CRITERIO DE WALD", {"forward1", "volver"}},
-  };
-  for (const Step& s : steps) {
-    SCOPED_TRACE(s.command);
-    if (s.alfa) {
-      ASSERT_TRUE(vorel_set(screen, "Alfa", s.alfa));
-    }
-    const std::string answer = vorel_press(screen, s.command);
-    EXPECT_THAT(screenText(answer), HasSubstr(s.page));
-    EXPECT_EQ(shownCommands(answer), s.shown);
-  }
-  // An arrow the page does not show leaves it as it is; a name that is no
-  // arrow is no command.
-  EXPECT_EQ(shownCommands(vorel_press(screen, "Continuar1")), (Shown{"forward1", "volver"}));
-  EXPECT_THAT(std::string(vorel_press(screen, "volver")), HasSubstr(R"("error")"));
-  // The next activation starts again at Wald.
-  vorel_press(screen, "forward1");
-  EXPECT_EQ(shownCommands(vorel_solve(screen, 0)), (Shown{"forward1", "volver"}));
-}
-
 TEST(WebApiBrowsing, RiskPagesGoForwardAndBackAndVolverOnlyFromTheFirst) {
   const char* screen = "DecisionRiesgoNobayesiano";
   Loaded loaded(screen, "riesgo/libro.txt");
@@ -272,70 +213,7 @@ TEST(WebApiBrowsing, RiskPagesGoForwardAndBackAndVolverOnlyFromTheFirst) {
   EXPECT_THAT(answer, HasSubstr(quoted(golden("riesgo/libro.page"))));
 }
 
-// The ELECTRE tables' column heads carry their captions and back colours in
-// the fields; Rediseñar moves "Ponderación" and its colour after the last
-// alternative chosen.
-TEST(WebApiTable, ElectraHeadsCarryTheirCaptionsAndColours) {
-  const char* screen = "DecisionElectra1";
-  const std::string loaded = vorel_load(screen);
-  EXPECT_THAT(loaded, HasSubstr(R"j("LblAlternativas(3)":{"text":"Alternativa 4","visible":true,)j"
-                                R"j("color":"#C0FFC0"},"LblAlternativas(4)":{"text":"Ponderación",)j"
-                                R"j("visible":true,"color":"#C0C0FF"})j"));
-  // The entry's way back keeps the name the screen knows it by.
-  EXPECT_THAT(loaded, HasSubstr(R"j({"name":"Image6","toolTip":"Volver")j"));
-  ASSERT_TRUE(vorel_set_index(screen, "NumAlternativas", 1));
-  const std::string edited = vorel_edit(screen, "RediseñarTabla");
-  EXPECT_THAT(edited, HasSubstr(R"j("LblAlternativas(2)":{"text":"Ponderación","visible":true,)j"
-                                R"j("color":"#C0C0FF"},"LblAlternativas(3)":{"text":"Alternativa 4",)j"
-                                R"j("visible":false,"color":"#C0FFC0"})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("C3(3)":{"text":"","visible":true},)j"
-                                R"j("C4(3)":{"text":"","visible":false})j"));
-  ASSERT_TRUE(vorel_set_index(screen, "NumCriterios", -1));
-  EXPECT_THAT(std::string(vorel_edit(screen, "RediseñarTabla")),
-              HasSubstr(R"j({"messages":[{"text":"Seleccione el número de Criterios","focus":""}])j"));
-}
-
-// The layout screens: selectors that shape their tables only through
-// Rediseñar Tabla, tables side by side or one below the other, heads over
-// several cells, and a method that may never end solved in slices.
-TEST(WebApiLayout, RediseñarTablaShapesTheRoutesAndBothBlocksOfDistances) {
-  const char* screen = "Distribucion_CargaDistancia";
-  const std::string loaded = vorel_load(screen);
-  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Secuencia","toolTip":"","buddy":"","row":0,"column":1,)j"
-                                R"j("rowSpan":1,"columnSpan":5)j"));
-  EXPECT_THAT(loaded, HasSubstr(R"j("tablesAcross":true)j"));
-  EXPECT_THAT(loaded, HasSubstr(R"j("action":"edit","target":"rediseñar")j"));
-  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 4));
-  ASSERT_TRUE(vorel_set_index(screen, "NumDistancias", 9));
-  // The choice alone shapes nothing.
-  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"j("C5(0)":{"text":"","visible":false})j"));
-  const std::string edited = vorel_edit(screen, "rediseñar");
-  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(4)":{"visible":true},"C5(0)":{"text":"","visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("LblActividades(5)":{"visible":false},"C6(0)":{"text":"","visible":false})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("Lbldistancias(1)":{"visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("D2(9)":{"text":"","visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("Distancias(10)":{"text":"","visible":false})j"));
-  vorel_unload(screen);
-}
-
-TEST(WebApiLayout, TheLowerTablesCaptionsShowWithItsFirstActivity) {
-  const char* screen = "Distribucion_Equlibrado";
-  const std::string loaded = vorel_load(screen);
-  EXPECT_THAT(loaded, HasSubstr(R"j("text":"Actividades Inmediatamente\nAnteriores","toolTip":"",)j"
-                                R"j("buddy":"","row":2,"column":0,"rowSpan":5,"columnSpan":1)j"));
-  EXPECT_THAT(loaded, HasSubstr(R"j("RotuloTiempos2":{"visible":false})j"));
-  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 7));
-  std::string edited = vorel_edit(screen, "rediseñar");
-  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":true},"RotuloAnteriores2":{"visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("TiempoOperacion(7)":{"text":"","visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("C1(5)":{"text":"","visible":true})j"));
-  EXPECT_THAT(edited, HasSubstr(R"j("C2(5)":{"text":"","visible":false})j"));
-  ASSERT_TRUE(vorel_set_index(screen, "NumActividades", 6));
-  edited = vorel_edit(screen, "rediseñar");
-  EXPECT_THAT(edited, HasSubstr(R"j("RotuloTiempos2":{"visible":false},"RotuloAnteriores2":{"visible":false})j"));
-  vorel_unload(screen);
-}
-
+// Line balancing: a method that may never end, solved in slices.
 TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   const char* screen = "Distribucion_Equlibrado";
   vorel_load(screen);
@@ -354,38 +232,6 @@ TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   vorel_open(screen, file.data(), static_cast<int>(file.size()));
   for (double budget : {4096.0, 2097152.0, 0.0})
     EXPECT_THAT(std::string(vorel_solve(screen, budget)), HasSubstr(R"j("doesNotEnd":true)j"));
-  vorel_unload(screen);
-}
-
-// The queues: an open list, options the fields choose, controls enabled and
-// relabelled by the fields, the edit each arrival runs, and Resolver writing
-// the model it chose into the entry's hidden fields.
-TEST(WebApiColas, TheFieldsEnableTheControlsAndResolverWritesTheModel) {
-  const char* screen = "TeoriaColas";
-  const std::string loaded = vorel_load(screen);
-  EXPECT_THAT(loaded, HasSubstr(R"("activate":"llegada")"));
-  EXPECT_THAT(loaded, HasSubstr(R"("kind":"listbox","name":"LLegadas")"));
-  EXPECT_THAT(loaded, HasSubstr(R"("K":{"text":"","enabled":false})"));
-  EXPECT_THAT(loaded, HasSubstr(R"("name":"back2")"));
-  const std::string arrived = vorel_edit(screen, "llegada");
-  EXPECT_THAT(arrived, HasSubstr(R"("ColaIlimitada":{"checked":true})"));
-  EXPECT_THAT(arrived, HasSubstr(R"("Servicios":{"index":0,"enabled":true})"));
-  ASSERT_TRUE(vorel_set_checked(screen, "ColaLimitada", 1));
-  const std::string limited = vorel_edit(screen, "ColaLimitada");
-  EXPECT_THAT(limited, HasSubstr(R"("ColaIlimitada":{"checked":false},"ColaLimitada":{"checked":true})"));
-  EXPECT_THAT(limited, HasSubstr(R"("TamañoCola":{"enabled":true},"K":{"text":"","enabled":true})"));
-  EXPECT_THAT(limited, HasSubstr(R"("Servicios":{"index":0,"enabled":false})"));
-  ASSERT_TRUE(vorel_set_index(screen, "Servicios", 1));
-  const std::string general = vorel_edit(screen, "Servicios");
-  EXPECT_THAT(general, HasSubstr(R"("S":{"text":"1","enabled":false})"));
-  EXPECT_THAT(general, HasSubstr(
-      R"("LblNu":{"text":"Valor esperado"},"Nu":{"text":"","toolTip":"Número medio de clientes atendidos por hora"})"));
-  for (auto [control, text] :
-       {std::pair{"S", "2"}, {"K", "4"}, {"Lambda", "3"}, {"Nu", "2"}, {"VarTS", "1"}})
-    ASSERT_TRUE(vorel_set(screen, control, text));
-  EXPECT_THAT(std::string(vorel_check(screen)), HasSubstr(R"("messages":[])"));
-  EXPECT_THAT(std::string(vorel_solve(screen, 0)), HasSubstr("Modelo M/M/s/K"));
-  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"("Tipo":{"text":"6"})"));
   vorel_unload(screen);
 }
 

@@ -106,8 +106,10 @@ void write(Json& j, const ui::Control& c) {
       .field("width", c.width)
       .field("height", c.height)
       .field("visible", c.visible)
+      .field("locked", c.locked)
       .field("group", c.group)
       .field("edit", c.edit)
+      .field("focusEdit", c.focusEdit)
       .field("family", c.family);
   j.key("items").open('[');
   for (const std::string& item : c.items) j.value(item);
@@ -246,6 +248,11 @@ void writeFields(Json& j, EntryForm& f) {
     if (c.marked) j.field("marked", *c.marked);
     if (c.enabled) j.field("enabled", *c.enabled);
     if (c.toolTip) j.field("toolTip", *c.toolTip);
+    if (c.items) {
+      j.key("items").open('[');
+      for (const std::string& item : *c.items) j.value(item);
+      j.close(']');
+    }
     j.close('}');
   });
   j.close('}');
@@ -296,6 +303,10 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   for (const ui::Command& c : f.solution().chrome) j.field(c.name, solution.offers(c.name));
   j.close('}');
   if (!solution.refusal().empty()) writeMessages(j, solution.refusal(), "refused");
+  // The entry's fields as the solution left them (the results Resolver writes
+  // into its boxes, the samples a chart removes).
+  j.key("fields");
+  writeFields(j, f);
   return give(j.close('}'));
 }
 

@@ -1,5 +1,6 @@
 #include "frame/gui/described_screens.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -27,17 +28,21 @@ QLabel* fieldLabel(QWidget* parent, const ui::Control& c) {
   return label;
 }
 
-// A list shown open: as tall as its lines, its items all in view.
-QListWidget* listBox(QWidget& screen, const ui::Control& c) {
+// A list shown open, as tall as its lines (a longer list scrolls); a click
+// on a row runs its edit with the row chosen.
+QListWidget* listBox(QWidget& screen, const ui::Control& c,
+                     const std::function<void(const std::string&)>& runEdit) {
   auto* list = new QListWidget(&screen);
   list->setObjectName(text(c.name));
   for (const std::string& item : c.items) list->addItem(text(item));
   list->setToolTip(text(c.toolTip));
-  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   const int lines = std::max(1, c.height);
   list->setFixedSize(c.width > 0 ? c.width : 64,
                      lines * list->fontMetrics().height() + 2 * list->frameWidth() + 6);
+  if (!c.edit.empty())
+    QObject::connect(list, &QListWidget::itemClicked, &screen,
+                     [runEdit, edit = c.edit] { Screen::run([&] { runEdit(edit); }); });
   return list;
 }
 
@@ -103,7 +108,7 @@ QLabel* panel(QWidget* parent, const ui::Control& c) {
 // A control of a table: the texts above it, column and row headings, cells,
 // each over the rows and columns of the table's grid it covers.
 void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
-                const ui::Control& c) {
+                const ui::Control& c, const std::function<void(const std::string&)>& runEdit) {
   QGridLayout* grid = tableGrid(table);
   const auto place = [&](QWidget* w, Qt::Alignment align = {}) {
     grid->addWidget(w, c.row, c.column, c.rowSpan, c.columnSpan, align);
@@ -139,7 +144,14 @@ void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
     cell->setObjectName(text(c.name));
     if (c.width > 0) cell->setFixedWidth(c.width);
     cell->setToolTip(text(c.toolTip));
+    if (c.locked) {
+      cell->setReadOnly(true);
+      cell->setFocusPolicy(Qt::NoFocus);
+      cell->setStyleSheet("QLineEdit { background: #F1F3F7; }");
+    }
     place(cell, Qt::AlignHCenter);
+  } else if (c.kind == ui::ControlKind::ListBox) {
+    place(listBox(screen, c, runEdit), Qt::AlignTop);
   }
 }
 
@@ -158,7 +170,7 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
     if (c.group >= 1) {
       auto& [table, above] = tables[c.group];
       if (!table) table = tableFrame(screen);
-      addToTable(screen, table, above, c);
+      addToTable(screen, table, above, c, runEdit);
       continue;
     }
     lastColumn = std::max(lastColumn, c.column);
@@ -180,7 +192,7 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
         w = selector(screen, c, runEdit);
         break;
       case ui::ControlKind::ListBox:
-        w = listBox(screen, c);
+        w = listBox(screen, c, runEdit);
         break;
       case ui::ControlKind::Option:
       case ui::ControlKind::Check: {
@@ -204,10 +216,19 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
         continue;
     }
     w->setVisible(c.visible);
-    fields->addWidget(w, c.row, c.column, Qt::AlignLeft | Qt::AlignVCenter);
+    fields->addWidget(w, c.row, c.column, c.rowSpan, c.columnSpan, Qt::AlignLeft | Qt::AlignVCenter);
   }
   for (auto& [buddy, label] : captions)
     if (QWidget* w = screen.findChild<QWidget*>(text(buddy))) label->setBuddy(w);
+  // The focus coming into a control (or its own text box) runs its focus edit.
+  for (const ui::Control& c : d.controls)
+    if (!c.focusEdit.empty())
+      if (QWidget* w = screen.findChild<QWidget*>(text(c.name)))
+        QObject::connect(qApp, &QApplication::focusChanged, w,
+                         [w, runEdit, edit = c.focusEdit](QWidget* from, QWidget* to) {
+                           const auto inside = [w](QWidget* x) { return x && (x == w || w->isAncestorOf(x)); };
+                           if (inside(to) && !inside(from)) Screen::run([&] { runEdit(edit); });
+                         });
   // The commands that edit the fields stand beside them, one column apart.
   int commandRow = 0;
   for (const ui::Command& c : d.commands)
@@ -255,6 +276,31 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
   return drawn;
 }
 
+std::vector<std::string> listItems(const QWidget& list) {
+  std::vector<std::string> items;
+  if (auto* box = qobject_cast<const QComboBox*>(&list))
+    for (int i = 0; i < box->count(); ++i) items.push_back(box->itemText(i).toStdString());
+  if (auto* open = qobject_cast<const QListWidget*>(&list))
+    for (int i = 0; i < open->count(); ++i) items.push_back(open->item(i)->text().toStdString());
+  return items;
+}
+
+void setListItems(QWidget& list, const std::vector<std::string>& items) {
+  if (listItems(list) == items) return;
+  QStringList texts;
+  for (const std::string& item : items) texts << text(item);
+  if (auto* box = qobject_cast<QComboBox*>(&list)) {
+    const QString typed = box->currentText();
+    box->clear();
+    box->addItems(texts);
+    if (box->isEditable()) box->setEditText(typed);
+  }
+  if (auto* open = qobject_cast<QListWidget*>(&list)) {
+    open->clear();
+    open->addItems(texts);
+  }
+}
+
 void showTables(const DescribedControls& drawn) {
   for (QFrame* table : drawn.tables) {
     const auto controls = table->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
@@ -278,7 +324,7 @@ void markCell(QLineEdit* cell, bool marked) {
 
 void focusFirstCell(QWidget& screen, const ui::Description& d) {
   for (const ui::Control& c : d.controls)
-    if (c.kind == ui::ControlKind::Cell)
+    if (c.kind == ui::ControlKind::Cell && !c.locked)
       if (auto* cell = screen.findChild<QLineEdit*>(text(c.name)); cell && !cell->isHidden()) {
         cell->setFocus();
         return;

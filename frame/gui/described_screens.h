@@ -35,6 +35,10 @@ void showTables(const DescribedControls& drawn);
 void nameChrome(QWidget& screen, const ui::Description& d);
 // A cell set apart, or not, by what a command found in it.
 void markCell(QLineEdit* cell, bool marked);
+// The items of a list (a selector or a list box), and the list given others
+// (left as it is where they are the same, so that its choice stays).
+std::vector<std::string> listItems(const QWidget& list);
+void setListItems(QWidget& list, const std::vector<std::string>& items);
 // The first shown cell of the table in reading order, where Rediseñar leaves
 // the focus.
 void focusFirstCell(QWidget& screen, const ui::Description& d);
@@ -76,6 +80,7 @@ class DescribedEntry : public ModelEntry<Fields> {
         *b.text(f) = list->currentText().toStdString();
       if (auto* list = qobject_cast<QListWidget*>(w); list && b.index)
         *b.index(f) = list->currentRow();
+      if (w && b.items) *b.items(f) = listItems(*w);
       if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && b.checked)
         *b.checked(f) = tick->isChecked();
       if (w && b.visible) *b.visible(f) = !w->isHidden();
@@ -95,6 +100,7 @@ class DescribedEntry : public ModelEntry<Fields> {
         label->setText(QString::fromStdString(*b.text(f)));
       if (auto* label = qobject_cast<QLabel*>(w); label && b.color)
         paintLabel(*label, *b.color(f));
+      if (w && b.items) setListItems(*w, *b.items(f));  // before the index that picks one
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.index)
         list->setCurrentIndex(*b.index(f));
       if (auto* list = qobject_cast<QComboBox*>(w); list && b.text)

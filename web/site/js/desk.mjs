@@ -55,6 +55,7 @@ export class Desk {
         chosen: (control, index, edit) => this.run(() => this.choose(name, control, index, edit)),
         ticked: (control, checked, edit, unticked) =>
           this.run(() => this.tick(name, control, checked, edit, unticked)),
+        focused: (edit) => this.run(() => this.runEdit(name, edit)),
       });
       this.loaded.set(name, { element, solutions: form.solutions, arrival: form.entry.activate });
       return this.loaded.get(name);
@@ -162,6 +163,9 @@ export class Desk {
   showSolution(name, solved) {
     const screen = this.loaded.get(name);
     screen.pages = solved;
+    // What the solution wrote into its entry shows there.
+    const { entry } = this.info.get(name);
+    if (solved.fields && this.loaded.has(entry)) this.showFields(entry, solved.fields);
     paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
     showCommands(screen.element, solved.commands, solved.offered);
     screen.element.querySelector('.grafico')?.remove();
@@ -262,7 +266,7 @@ export class Desk {
   async editCommand(name, edit) {
     if (!(await this.runEdit(name, edit))) return;
     const cells = this.loaded.get(name).element.querySelectorAll('.tabla input.cell');
-    [...cells].find((cell) => !cell.hidden)?.focus();
+    [...cells].find((cell) => !cell.hidden && !cell.readOnly)?.focus();
   }
 
   // A browsing command: the solution's next page.

@@ -51,9 +51,10 @@ export function menuScreen(info, d, press) {
 }
 
 // An entry screen: its text boxes report every change through `typed`, its
-// selectors through `chosen`, its options and check boxes through `ticked`;
+// selectors through `chosen`, its options and check boxes through `ticked`,
+// the focus coming into a control with an edit of its own through `focused`;
 // `showFields` puts the fields on it.
-export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
+export function entryScreen(info, d, fields, press, { typed, chosen, ticked, focused }) {
   const id = (name) => `${d.name}-${name}`;
   // Every control at its place on its grid: the fields' grid, or a table's
   // (whose row -1 is the text above it), over the rows and columns it covers.
@@ -64,7 +65,8 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
     : undefined);
   const at = (c) => (c.group >= 1
     ? { 'data-row': c.row, 'data-column': c.column, 'data-span': c.columnSpan > 1 ? c.columnSpan : undefined }
-    : {});
+    : { 'data-span': c.columnSpan > 1 ? c.columnSpan : undefined });
+  const onFocus = (c) => (c.focusEdit ? { onfocus: () => focused(c.focusEdit) } : {});
   const draw = (c) => {
     switch (c.kind) {
       case 'textbox':
@@ -72,6 +74,7 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
         return el('input', {
           type: 'text', id: id(c.name), name: c.name, className: c.kind, title: c.toolTip || undefined,
           autocomplete: 'off', spellcheck: false, style: place(c), hidden: !c.visible, ...at(c),
+          ...(c.locked ? { readOnly: true, tabIndex: -1 } : {}), ...onFocus(c),
           oninput: (e) => typed(c.name, e.target.value),
         });
       case 'selector':
@@ -80,10 +83,10 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
           style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
           onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
         }, c.items.map((item) => el('option', { textContent: item })));
-      case 'listbox':  // a list shown open, however short
+      case 'listbox':  // a list shown open, however short; a longer one scrolls
         return el('select', {
-          id: id(c.name), name: c.name, className: 'lista', size: Math.max(2, c.items.length),
-          title: c.toolTip || undefined, hidden: !c.visible,
+          id: id(c.name), name: c.name, className: 'lista', size: Math.max(2, c.height),
+          title: c.toolTip || undefined, hidden: !c.visible, ...at(c), ...onFocus(c),
           style: `${place(c)}; --lineas: ${Math.max(1, c.height)}; width: ${c.width || 64}px`,
           onchange: (e) => chosen(c.name, e.target.selectedIndex, c.edit),
         }, c.items.map((item) => el('option', { textContent: item })));
@@ -209,6 +212,7 @@ export function showFields(screenElement, fields) {
       if (isInput) control.value = state.text;
       else control.textContent = state.text;
     }
+    if ('items' in state) showItems(control, state.items);
     if ('index' in state) control.selectedIndex = state.index;
     if ('checked' in state) control.checked = state.checked;
     if ('color' in state) control.style.backgroundColor = state.color;
@@ -224,6 +228,13 @@ export function showFields(screenElement, fields) {
   }
   for (const table of screenElement.querySelectorAll('.tabla')) closeUpColumns(table);
   nameCells(screenElement);
+}
+
+// A list's items as the fields give them (kept where they are the same).
+function showItems(list, items) {
+  const now = [...list.options].map((o) => o.textContent);
+  if (now.length === items.length && now.every((text, i) => text === items[i])) return;
+  list.replaceChildren(...items.map((item) => el('option', { textContent: item })));
 }
 
 // A table's columns with nothing shown take no room: the shown ones stand
