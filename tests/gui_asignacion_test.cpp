@@ -1,7 +1,7 @@
 // The assignment screens driven offscreen: the entry's texts, the cell checks
 // in their wordings with the focus they leave, the kept solutions browsed one
 // click at a time with only the moves that exist shown, RediseñarTabla and
-// nuevo, and the printed page with every solution.
+// nuevo.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -189,27 +189,6 @@ TEST_F(AsignacionScreens, NuevoBlanksAndRestoresTheFirstShapeButKeepsTheTitle) {
   EXPECT_EQ(control<QComboBox>(kEntry, "NumIndividuos")->currentText(), "2");
   EXPECT_EQ(control<QComboBox>(kEntry, "NumTareas")->currentText(), "2");
   expectShape(2, 2);
-}
-
-// Imprimir, from any page, prints every kept solution under its head.
-TEST_F(AsignacionScreens, ImprimirPrintsEverySolutionFromAnyPage) {
-  openExample("costes-iguales.txt");
-  press(kEntry, "Resolver");
-  press(kSolution, "forward1");
-  press(kSolution, "forward2");
-  const QString pdf = QString::fromStdString(tempPath("asignacion.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  std::size_t at = 0;
-  for (const char* line : {"PROBLEMA DE ASIGNACIÓN", "Solución al problema: Costes iguales",
-                           "SOLUCIÓN 1", "SOLUCIÓN 2", "SOLUCIÓN 3", "Coste Total:"}) {
-    at = text.find(line, at);
-    ASSERT_NE(at, std::string::npos) << line;
-  }
-  EXPECT_EQ(pdfPages(pdf), 1);
 }
 
 }  // namespace

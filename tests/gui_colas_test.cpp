@@ -1,6 +1,6 @@
 // The queueing screens driven offscreen: the option buttons and Servicios
 // with the enabling they drive, the entry's activation on each return, the
-// checks the options bring in, nuevo and the printed page.
+// checks the options bring in and nuevo.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -240,22 +240,6 @@ TEST_F(ColasScreens, NuevoBlanksTheFieldsAndChoosesTheUnlimitedQueue) {
   EXPECT_EQ(chosen(), "100");
   EXPECT_EQ(enabling(), "....S");
   EXPECT_EQ(servicios()->currentIndex(), 0);
-}
-
-TEST_F(ColasScreens, ImprimirPrintsTheStoredPage) {
-  openFile(kEntry, examplePath("colas", "mm1k.txt"));
-  press(kEntry, "Resolver");
-  const QString pdf = QString::fromStdString(tempPath("colas.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  std::size_t at = 0;
-  for (const char* line : {"TEORÍA DE COLAS", "Modelo M/M/1/K", "MEDIDAS DE RENDIMIENTO"}) {
-    at = text.find(line, at);
-    ASSERT_NE(at, std::string::npos) << line;
-  }
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // The ELECTRE I screens driven offscreen: the controls' tips, the checks with
 // the focus they leave, RediseñarTabla with the heads' captions and colours,
-// nuevo, the colours kept in the problem file, and the printed page.
+// nuevo, and the colours kept in the problem file.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -196,25 +196,6 @@ TEST_F(Electra1Screens, MoreAlternativesChosenThanShownIsAnOverflow) {
   press(kEntry, "Resolver");
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(platform.runtimeErrors, std::vector<int>{6});
-}
-
-TEST_F(Electra1Screens, ImprimirPrintsTheReportUnderItsHead) {
-  openExample("libro.txt");
-  press(kEntry, "Resolver");
-  const QString pdf = QString::fromStdString(tempPath("electra1.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  std::size_t at = 0;
-  for (const char* line : {"ELECTRA 1", "Solución al problema: Elección de proveedor",
-                           "SOBRECLASIFICACIÓN", "NÚCLEO"}) {
-    at = text.find(line, at);
-    ASSERT_NE(at, std::string::npos) << line;
-  }
-  EXPECT_EQ(text.find(std::string(67, '_')), std::string::npos);  // the page's rule is shorter
-  EXPECT_NE(text.find(std::string(66, '_')), std::string::npos);
 }
 
 }  // namespace

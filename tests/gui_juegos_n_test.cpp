@@ -1,6 +1,6 @@
 // The screens of games with n strategies driven offscreen: the entry's texts,
 // a game typed cell by cell, the checks with the focus they leave, Rediseñar
-// and nuevo, the rows read for each player, and the printed page.
+// and nuevo, and the rows read for each player.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -190,20 +190,6 @@ TEST_F(JuegosNScreens, OnlyTheColumnsOfPlayerTwosCountAreRead) {
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_TRUE(visible(kEntry));
   EXPECT_EQ(screen(kSolution), nullptr);
-}
-
-TEST_F(JuegosNScreens, ImprimirPrintsThePageOfTheLastReport) {
-  openFile(kEntry, examplePath("juegosn", "sin-punto-de-silla.txt"));
-  press(kEntry, "Resolver");
-  const QString pdf = QString::fromStdString(tempPath("juegos_n.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  EXPECT_NE(text.find("JUEGOS CON N JUGADORES"), std::string::npos);
-  EXPECT_NE(text.find("número de estrategias del J1:"), std::string::npos);
-  EXPECT_NE(text.find("No existen equilibrios en estrategias puras"), std::string::npos);
 }
 
 }  // namespace

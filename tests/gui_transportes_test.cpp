@@ -1,6 +1,6 @@
 // The transportation screens driven offscreen: the entry's texts, the cell
 // checks with the focus they leave, the degenerate first solution sent back
-// to the entry, RediseñarTabla and nuevo, and the printed page.
+// to the entry, RediseñarTabla and nuevo.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -189,23 +189,6 @@ TEST_F(TransportesScreens, NuevoBlanksAndRestoresTheFirstShapeButKeepsTheTitle) 
   EXPECT_EQ(control<QComboBox>(kEntry, "NumOrigen")->currentText(), "2");
   EXPECT_EQ(control<QComboBox>(kEntry, "NumDestino")->currentText(), "2");
   expectShape(2, 2);
-}
-
-TEST_F(TransportesScreens, ImprimirPrintsThePageUnderItsHead) {
-  openExample("exceso-de-existencias.txt");
-  press(kEntry, "Resolver");
-  const QString pdf = QString::fromStdString(tempPath("transporte.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  std::size_t at = 0;
-  for (const char* line : {"PROBLEMA DEL TRANSPORTE", "Solución al problema: Sobran existencias",
-                           "CANTIDADES TRANSPORTADAS", "EXISTENCIAS", "Coste Total"}) {
-    at = text.find(line, at);
-    ASSERT_NE(at, std::string::npos) << line;
-  }
 }
 
 }  // namespace
