@@ -1,12 +1,10 @@
 // The simplex screens driven offscreen: the table typed and reshaped, the
 // checks of the objective row with the focus they leave, the two optima
-// browsed, run-time errors, the printed page, and a problem that cycles for ever.
+// browsed, and run-time errors.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
-#include <QTimer>
 #include <set>
 
 #include "frame/gui/model_screens.h"
@@ -194,20 +192,6 @@ TEST_F(SimplexScreens, NuevoBlanksTheTableAndPutsBackTheTwoByTwoShape) {
   expectShown({"X3(0)", "existencias(3)", "restriccion(2)"}, false);
 }
 
-TEST_F(SimplexScreens, ImprimirPrintsItsPage) {
-  openLibro();
-  press(kEntry, "Resolver");
-  const QString pdf = QString::fromStdString(tempPath("simplex.pdf"));
-  platform.printTo(pdf);
-  press(kSolution, "Imprimir");
-  EXPECT_EQ(platform.printerDialogs, 1);
-  platform.endProcess();
-  const std::string text = pdfText(pdf);
-  EXPECT_NE(text.find("SIMPLEX"), std::string::npos) << text;
-  EXPECT_NE(text.find("Factor productivo 1"), std::string::npos);
-  EXPECT_NE(text.find("Maximizar Z = 3X1 + 5X2"), std::string::npos);
-}
-
 // A right-hand side beyond Single, or no number of constraints chosen: the
 // platform's overflow or subscript error, an empty report, a usable screen.
 TEST_F(SimplexScreens, RunTimeErrorsGoToThePlatformAndTheScreenStaysUsable) {
@@ -223,43 +207,6 @@ TEST_F(SimplexScreens, RunTimeErrorsGoToThePlatformAndTheScreenStaysUsable) {
     EXPECT_EQ(report(), "");
     EXPECT_EQ(enabled(), (std::set<std::string>{"volver", "Imprimir", "cerrar"}));
   }
-}
-
-// A problem whose big-M rounding cycles: the method never ends, but the
-// window keeps handling events, and closing it ends the solving.
-TEST_F(SimplexScreens, ACyclingProblemRunsOnUntilItsScreenIsClosed) {
-  openFile(kEntry, examplePath("simplex", "sin-fin.txt"));
-  struct Seen {
-    bool fired = false, solving = false;
-    std::set<std::string> enabled;
-    std::string report = "<unset>";
-  } seen;
-  QElapsedTimer clock;
-  clock.start();
-  QTimer::singleShot(400, [&] {
-    seen.fired = true;
-    auto* s = dynamic_cast<gui::SolutionScreen*>(screen(kSolution));
-    if (!s) return;
-    seen.solving = s->solving();
-    seen.enabled = enabled();
-    seen.report = report();
-    press(kSolution, "cerrar");
-  });
-  press(kEntry, "Resolver");
-  EXPECT_TRUE(seen.fired);
-  EXPECT_GE(clock.elapsed(), 400);
-  EXPECT_TRUE(seen.solving);
-  EXPECT_EQ(seen.enabled, std::set<std::string>{"cerrar"});
-  EXPECT_EQ(seen.report, "");
-  EXPECT_EQ(screen(kSolution), nullptr);  // unloaded by cerrar
-  EXPECT_TRUE(platform.runtimeErrors.empty());
-  wait(50);  // the closed screen is deleted later
-
-  // The entry is still loaded, and a problem that ends solves.
-  screens().show(kEntry);
-  openLibro();
-  press(kEntry, "Resolver");
-  EXPECT_EQ(report(), golden("simplex", "libro.txt", "report"));
 }
 
 }  // namespace
