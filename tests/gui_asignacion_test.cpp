@@ -1,11 +1,9 @@
-// The assignment screens driven offscreen: the entry's texts, the cell checks
-// in their wordings with the focus they leave, the kept solutions browsed one
-// click at a time with only the moves that exist shown, RediseñarTabla and
-// nuevo.
+// The assignment screens driven offscreen, as the desktop's wiring of a
+// described model: the cell checks with the focus they leave, and the kept
+// solutions browsed one click at a time with only the moves that exist shown
+// (the form's own logic: lp_forms_test and asignacion_test).
 #include <gtest/gtest.h>
 
-#include <QComboBox>
-#include <QLabel>
 #include <map>
 #include <set>
 
@@ -27,11 +25,6 @@ class AsignacionScreens : public ScreenTest {
     screens().show(kEntry);
   }
   void openExample(const char* file) { openFile(kEntry, examplePath("asignacion", file)); }
-  bool shown(const QString& name) { return ScreenTest::shown(kEntry, name); }
-  void select(int individuos, int tareas) {
-    control<QComboBox>(kEntry, "NumIndividuos")->setCurrentIndex(individuos - 1);
-    control<QComboBox>(kEntry, "NumTareas")->setCurrentIndex(tareas - 1);
-  }
   std::string report() { return painted(kSolution); }
   Buttons visibleButtons() {
     Buttons out;
@@ -42,36 +35,7 @@ class AsignacionScreens : public ScreenTest {
     }
     return out;
   }
-  void expectShape(int individuos, int tareas) {
-    for (int i = 0; i < 8; ++i) {
-      if (i < 7) {
-        EXPECT_EQ(shown(QString("LblIndividuos(%1)").arg(i)), i < individuos) << i;
-        EXPECT_EQ(shown(QString("LblTareas(%1)").arg(i)), i < tareas) << i;
-      }
-      for (int j = 1; j <= 8; ++j)
-        EXPECT_EQ(shown(QString("C%1(%2)").arg(j).arg(i)), i < individuos && j <= tareas)
-            << "C" << j << "(" << i << ")";
-    }
-  }
 };
-
-TEST_F(AsignacionScreens, TheEntryLoadsWithATwoByTwoTable) {
-  EXPECT_EQ(screen(kEntry)->windowTitle(), "Problemas de Asignación");
-  EXPECT_EQ(text(kEntry, "Título"), "Problema 1");
-  for (const char* name : {"NumIndividuos", "NumTareas"}) {
-    auto* combo = control<QComboBox>(kEntry, name);
-    ASSERT_NE(combo, nullptr) << name;
-    EXPECT_EQ(combo->count(), 7);
-    EXPECT_EQ(combo->itemText(6), "7");
-    EXPECT_EQ(combo->currentText(), "2");
-  }
-  EXPECT_EQ(control<QAbstractButton>(kEntry, "RediseñarTabla")->text(), "Rediseñar Tabla");
-  EXPECT_EQ(control<QLabel>(kEntry, "LblIndividuos(6)")->text(), "Individuo 7");
-  EXPECT_EQ(control<QLabel>(kEntry, "LblTareas(0)")->text(), "Tarea 1");
-  expectShape(2, 2);
-  press(kEntry, "volver");
-  EXPECT_TRUE(visible("ProgramaciónLineal"));
-}
 
 // Every message reaches the box, the focus ending on the last bad cell, and
 // only the table's visible cells are read (the wordings: the core suite).
@@ -141,54 +105,6 @@ TEST_F(AsignacionScreens, BrowsingThreeSolutionsPageByPage) {
   press(kEntry, "Resolver");
   EXPECT_EQ(report(), pages[1]);
   EXPECT_EQ(visibleButtons(), Buttons{"forward1"});
-}
-
-TEST_F(AsignacionScreens, FewerSolutionsOfferFewerMoves) {
-  openExample("dos-optimos.txt");
-  press(kEntry, "Resolver");
-  EXPECT_EQ(visibleButtons(), Buttons{"forward1"});
-  press(kSolution, "forward1");
-  EXPECT_NE(report().find("SOLUCIÓN 2"), std::string::npos);
-  EXPECT_EQ(visibleButtons(), Buttons{"Back1"});
-
-  // A single optimum: no heading and nothing to browse.
-  press(kSolution, "volver");
-  type(kEntry, "C1(0)", "0");
-  press(kEntry, "Resolver");
-  EXPECT_NE(report().find("Número de soluciones:        1"), std::string::npos);
-  EXPECT_EQ(report().find("SOLUCIÓN"), std::string::npos);
-  EXPECT_EQ(visibleButtons(), Buttons{});
-}
-
-// RediseñarTabla shows the chosen individuals by tasks and keeps every text;
-// without a chosen number it reads the empty selector as 0.
-TEST_F(AsignacionScreens, RediseñarTablaReshapesAndKeepsTheTexts) {
-  openExample("siete.txt");
-  const QString before = text(kEntry, "C7(6)");
-  const std::pair<int, int> shapes[] = {{1, 1}, {7, 7}, {3, 5}, {7, 1}, {7, 7}, {0, 4}};
-  for (auto [individuos, tareas] : shapes) {
-    SCOPED_TRACE(std::to_string(individuos) + "x" + std::to_string(tareas));
-    select(individuos, tareas);
-    control(kEntry, "Título")->setFocus();
-    press(kEntry, "RediseñarTabla");
-    EXPECT_TRUE(platform.messages.empty());
-    expectShape(individuos, tareas);
-    if (individuos > 0) {
-      EXPECT_EQ(focused(kEntry), "C1(0)");
-    }
-  }
-  EXPECT_FALSE(before.isEmpty());
-  EXPECT_EQ(text(kEntry, "C7(6)"), before);
-}
-
-TEST_F(AsignacionScreens, NuevoBlanksAndRestoresTheFirstShapeButKeepsTheTitle) {
-  openExample("siete.txt");
-  press(kEntry, "nuevo");
-  EXPECT_EQ(text(kEntry, "Título"), "Siete tareas");
-  for (const char* f : {"C1(0)", "C3(1)", "C7(6)"}) EXPECT_EQ(text(kEntry, f), "") << f;
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumIndividuos")->currentText(), "2");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumTareas")->currentText(), "2");
-  expectShape(2, 2);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-// The transportation screens driven offscreen: the entry's texts, the cell
-// checks with the focus they leave, the degenerate first solution sent back
-// to the entry, RediseñarTabla and nuevo.
+// The transportation screens driven offscreen: the degenerate first solution
+// sent back to the entry, and RediseñarTabla with its messages (the checks and
+// nuevo: transportes_test).
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -46,62 +46,6 @@ class TransportesScreens : public ScreenTest {
     EXPECT_EQ(caption(QString("LblDestino(%1)").arg(n)), "Existencias");
   }
 };
-
-TEST_F(TransportesScreens, TheEntryLoadsWithATwoByTwoTable) {
-  EXPECT_EQ(screen(kEntry)->windowTitle(), "Problema del Transporte");
-  const QString intro = caption("Label1");
-  EXPECT_TRUE(intro.startsWith("El Problema del Trasporte consiste en determinar la cantidades"));
-  EXPECT_TRUE(intro.endsWith("las especificaciones en cua"));
-  EXPECT_EQ(text(kEntry, "Título"), "Problema 1");
-  for (auto [name, tip] : {std::pair{"NumOrigen", "Número de Orígenes"},
-                           std::pair{"NumDestino", "Número de Destinos"}}) {
-    auto* combo = control<QComboBox>(kEntry, name);
-    ASSERT_NE(combo, nullptr) << name;
-    EXPECT_EQ(combo->count(), 7);
-    EXPECT_EQ(combo->itemText(6), "7");
-    EXPECT_EQ(combo->currentText(), "2");
-    EXPECT_EQ(combo->toolTip(), tip);
-  }
-  EXPECT_EQ(control<QAbstractButton>(kEntry, "RediseñarTabla")->text(), "Rediseñar Tabla");
-  expectShape(2, 2);
-  press(kEntry, "volver");
-  EXPECT_TRUE(visible("ProgramaciónLineal"));
-  EXPECT_FALSE(visible(kEntry));
-}
-
-// Every bad cell of the table, supplies and demands included, is told in
-// reading order, focus ending on the last; hidden cells and negative or
-// exponent numbers draw nothing.
-TEST_F(TransportesScreens, EveryBadCellIsToldAndTheFocusEndsOnTheLast) {
-  struct Case {
-    std::vector<std::pair<const char*, const char*>> edits;
-    int messages;
-    const char* focus;
-  } cases[] = {
-      {{{"C2(0)", "x"}}, 1, "C2(0)"},
-      {{{"C5(2)", ""}, {"C1(0)", "diez"}}, 2, "C5(2)"},  // a supply, after a cost of row 0
-      {{{"C4(3)", "-"}, {"C3(1)", " "}}, 2, "C4(3)"},    // a demand, in the last row
-      {{{"C5(3)", "x"}, {"C6(0)", "x"}, {"C1(4)", "x"}, {"C1(1)", "-4"}, {"C2(1)", "1e3"}},
-       0,
-       "Título"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.focus);
-    screens().reset();
-    platform.messages.clear();
-    openExample("libro.txt");
-    for (auto [name, value] : c.edits) type(kEntry, name, value);
-    control(kEntry, "Título")->setFocus();
-    press(kEntry, "Resolver");
-    EXPECT_EQ(platform.messages, std::vector<std::string>(
-                                     std::size_t(c.messages),
-                                     "Debe Completar la tabla de Costes Unitarios de Transporte"));
-    EXPECT_EQ(visible(kSolution), c.messages == 0);
-    if (c.messages > 0) {
-      EXPECT_EQ(focused(kEntry), c.focus);
-    }
-  }
-}
 
 // A first solution with fewer filled cells than origins plus destinations
 // less one is refused: the message, then the entry again with all it held.
@@ -178,17 +122,6 @@ TEST_F(TransportesScreens, RediseñarTablaWantsBothNumbers) {
     EXPECT_EQ(platform.messages, std::vector<std::string>{c.message});
     expectShape(3, 4);  // untouched
   }
-}
-
-TEST_F(TransportesScreens, NuevoBlanksAndRestoresTheFirstShapeButKeepsTheTitle) {
-  openExample("siete-por-siete.txt");
-  press(kEntry, "nuevo");
-  EXPECT_EQ(text(kEntry, "Título"), "Siete por siete");
-  for (const char* f : {"C1(0)", "C3(1)", "C1(2)", "C7(6)", "C8(0)"})
-    EXPECT_EQ(text(kEntry, f), "") << f;
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumOrigen")->currentText(), "2");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumDestino")->currentText(), "2");
-  expectShape(2, 2);
 }
 
 }  // namespace
