@@ -1,6 +1,7 @@
-// The ELECTRE I screens driven offscreen: the controls' tips, the checks with
-// the focus they leave, RediseñarTabla with the heads' captions and colours,
-// nuevo, and the colours kept in the problem file.
+// The ELECTRE I screens driven offscreen: RediseñarTabla's messages, nuevo,
+// the heads' colours kept in the problem file, and a selector beyond the
+// cells shown (the checks and their focus: electra1_test; the heads' captions
+// and colours on Rediseñar: decision.test.mjs).
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -34,107 +35,6 @@ class Electra1Screens : public ScreenTest {
     return head(i)->grab().toImage().pixelColor(5, head(i)->height() / 2);
   }
 };
-
-TEST_F(Electra1Screens, ControlsCarryTheirNamesAndTips) {
-  const char* tips[][2] = {{"Image6", "Volver"},
-                           {"escalaValoracion", "Escala de valoración"},
-                           {"IndiceConcordancia", "Índice de concordancia en tanto por uno"},
-                           {"IndiceDiscordancia", "Índice de Discordancia en tanto por uno"}};
-  for (auto& t : tips) {
-    ASSERT_NE(control(kEntry, t[0]), nullptr) << t[0];
-    EXPECT_EQ(control(kEntry, t[0])->toolTip(), t[1]);
-  }
-  EXPECT_EQ(control<QAbstractButton>(kEntry, "RediseñarTabla")->text(), "Rediseñar Tabla");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumAlternativas")->count(), 6);
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumCriterios")->count(), 7);
-  EXPECT_EQ(screen(kEntry)->windowTitle(), "Método multicriterio Electra 1");
-  press(kEntry, "Image6");
-  EXPECT_TRUE(visible("DecisionMulticriterio"));
-  EXPECT_FALSE(visible(kEntry));
-}
-
-// One message each, and the focus goes where the core says: to the offending
-// field, or nowhere after the range message of the scale (it stays on the
-// title). The shape read from the file decides which cells are looked at (the
-// checks, their order and their focus: the core suite).
-TEST_F(Electra1Screens, ChecksTellTheFirstFailureAndMoveTheFocus) {
-  struct Case {
-    const char* focus;  // the cells of C7 are those of the six alternatives of mayor-tabla
-    std::vector<std::pair<const char*, const char*>> edits;
-    std::string message;  // empty: solves
-  } cases[] = {
-      {"Título",
-       {{"escalaValoracion", "1e10"}},
-       "El valor de la escala de valoración no es correcto, debe introducir un valor comprendico "
-       "entre 0 y 999999999"},
-      {"C2(0)",
-       {{"C2(0)", "a"}, {"C1(1)", ""}},
-       "Debe completar la tabla de escalas de valoración"},
-      {"C7(6)", {{"C7(6)", ""}}, "Debe completar la fila de ponderaciones"},
-      // Row 5 and column 6 are hidden with four criteria and four alternatives.
-      {"Título", {{"C1(5)", "no es un número"}, {"C6(0)", "x"}}, ""},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.message);
-    screens().reset();
-    platform.messages.clear();
-    openExample(QString(c.focus).startsWith("C7") ? "mayor-tabla.txt" : "libro.txt");
-    for (auto [name, value] : c.edits) type(kEntry, name, value);
-    control(kEntry, "Título")->setFocus();
-    press(kEntry, "Resolver");
-    if (c.message.empty()) {
-      EXPECT_TRUE(platform.messages.empty());
-      EXPECT_TRUE(visible(kSolution));
-      continue;
-    }
-    EXPECT_EQ(platform.messages, std::vector<std::string>{c.message});
-    EXPECT_EQ(focused(kEntry), c.focus);
-    EXPECT_TRUE(visible(kEntry));
-    EXPECT_FALSE(visible(kSolution));
-  }
-}
-
-TEST_F(Electra1Screens, ComingBackRecomputesFromTheFieldsAsTheyStand) {
-  openExample("libro.txt");
-  press(kEntry, "Resolver");
-  press(kSolution, "volver");
-  EXPECT_TRUE(visible(kEntry));
-  type(kEntry, "IndiceConcordancia", "1");
-  type(kEntry, "IndiceDiscordancia", "0");
-  press(kEntry, "Resolver");
-  // No alternative wins every criterion: nothing outranks.
-  EXPECT_NE(painted(kSolution).find("No existen alternativas sobreclasificadas"),
-            std::string::npos);
-}
-
-// RediseñarTabla shows NA alternatives and the weights after them, over NC
-// criteria; the heads take their captions and colours; no text is lost.
-TEST_F(Electra1Screens, RediseñarTablaReshapesAndRecolours) {
-  openExample("libro.txt");
-  const std::pair<int, int> shapes[] = {{1, 1}, {2, 6}, {6, 7}, {4, 4}};
-  for (auto [na, nc] : shapes) {
-    SCOPED_TRACE(std::to_string(na) + "x" + std::to_string(nc));
-    select(na, nc);
-    control(kEntry, "Título")->setFocus();
-    press(kEntry, "RediseñarTabla");
-    EXPECT_TRUE(platform.messages.empty());
-    for (int i = 0; i < 7; ++i) {
-      EXPECT_EQ(shown(QString("LblCriterios(%1)").arg(i)), i < nc) << i;
-      EXPECT_EQ(!head(i)->isHidden(), i <= na) << i;
-      EXPECT_EQ(head(i)->text(),
-                i == na ? QString("Ponderación") : QString("Alternativa %1").arg(i + 1));
-      EXPECT_EQ(head(i)->property("BackColor").toLongLong(), i == na ? 0xFFC0C0 : 0xC0FFC0);
-      for (int j = 1; j <= 7; ++j)
-        EXPECT_EQ(shown(QString("C%1(%2)").arg(j).arg(i)), j <= na + 1 && i < nc) << j << "," << i;
-    }
-    EXPECT_EQ(focused(kEntry), "C1(0)");
-  }
-  EXPECT_EQ(text(kEntry, "C4(3)"), "8");
-  EXPECT_EQ(text(kEntry, "C5(3)"), "1");
-  // The stored colours are blue-green-red: the weights' head shows light blue.
-  EXPECT_EQ(headColour(4), QColor(0xC0, 0xC0, 0xFF));
-  EXPECT_EQ(headColour(0), QColor(0xC0, 0xFF, 0xC0));
-}
 
 TEST_F(Electra1Screens, RediseñarTablaWantsBothNumbers) {
   struct Case {

@@ -1,7 +1,7 @@
-// The screens of decisions under uncertainty driven offscreen: the buttons'
-// tips, the checks, the report pages browsed one click at a time with the
-// buttons each page shows, RediseñarTabla and nuevo, and the printed page
-// with every criterion.
+// The screens of decisions under uncertainty driven offscreen: a check's
+// message that leaves the focus where it was, the pages as a student reads
+// them, RediseñarTabla's messages and nuevo, and the printed page with every
+// criterion (where each arrow leads: incertidumbre_test and decision.test.mjs).
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -60,30 +60,6 @@ class IncertidumbreScreens : public ScreenTest {
   }
 };
 
-TEST_F(IncertidumbreScreens, ButtonsCarryTheirNamesAndTips) {
-  openLibro();
-  press(kEntry, "Resolver");
-  const char* tips[][2] = {{"forward1", "Criterio Maximax u Optimista"},
-                           {"Back1", "Criterio Wald, Maximin o Pesimista"},
-                           {"forward2", "Criterio de Laplace, Criterio de savaje"},
-                           {"Continuar1", "Criterio de Hurwicz"},
-                           {"Continuar2", "Criterio Maximax u Optimista"},
-                           {"NoContinuar", "Criterio Maximax u Optimista"},
-                           {"NoContinuar2", "Criterio de Laplace, Criterio de savaje"},
-                           {"Imprimir", "Imprimir"}};
-  for (auto& t : tips) {
-    auto* b = control<QAbstractButton>(kSolution, t[0]);
-    ASSERT_NE(b, nullptr) << t[0];
-    EXPECT_EQ(b->toolTip(), t[1]);
-  }
-  EXPECT_EQ(screen(kSolution)->windowTitle(), "Solución");
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumEstados")->count(), 7);
-  EXPECT_EQ(control<QComboBox>(kEntry, "NumAlternativas")->count(), 7);
-  press(kSolution, "volver");
-  press(kEntry, "Image5");  // the entry's way back is named Image5
-  EXPECT_TRUE(visible("DecisionTeoria"));
-}
-
 // The first failure is the only message, and the focus stays where it was
 // (the checks and their order: the core suite).
 TEST_F(IncertidumbreScreens, ChecksTellTheFirstFailureAndLeaveTheFocus) {
@@ -117,44 +93,6 @@ TEST_F(IncertidumbreScreens, ChecksTellTheFirstFailureAndLeaveTheFocus) {
   }
 }
 
-// Each button once or more: the page painted and the buttons shown after it.
-// Alfa is read from the entry screen when forward2 or NoContinuar2 is pressed
-// (where each click leads: the core suite).
-TEST_F(IncertidumbreScreens, BrowsingPageByPage) {
-  openLibro();  // Alfa 0.4
-  press(kEntry, "Resolver");
-  const std::string wald = page();
-  EXPECT_EQ(criterion(), "Wald");
-  EXPECT_EQ(visibleButtons(), (Buttons{"forward1", "volver"}));
-  struct Step {
-    const char* alfa;  // typed on the entry screen before the click; null: as it is
-    const char* button;
-    const char* page;
-    Buttons buttons;
-  } steps[] = {
-      {nullptr, "forward1", "Maximax", {"Back1", "forward2"}},
-      {nullptr, "forward2", "SavageLaplace", {"Continuar1", "Continuar2"}},
-      {nullptr, "Continuar2", "Maximax", {"Back1", "forward2"}},
-      {"abc", "forward2", "SavageLaplace", {"NoContinuar"}},
-      {nullptr, "NoContinuar", "Maximax", {"Back1", "forward2"}},
-      {"0.4", "forward2", "SavageLaplace", {"Continuar1", "Continuar2"}},
-      {nullptr, "Continuar1", "Hurwicz", {"NoContinuar2"}},
-      {"x", "NoContinuar2", "SavageLaplace", {"NoContinuar"}},
-      {"0.4", "NoContinuar", "Maximax", {"Back1", "forward2"}},
-      {nullptr, "Back1", "Wald", {"forward1", "volver"}},
-  };
-  int n = 0;
-  for (const Step& s : steps) {
-    SCOPED_TRACE("step " + std::to_string(++n) + ": " + s.button);
-    if (s.alfa) type(kEntry, "Alfa", s.alfa);
-    press(kSolution, s.button);
-    EXPECT_EQ(criterion(), s.page);
-    EXPECT_EQ(visibleButtons(), s.buttons);
-  }
-  EXPECT_TRUE(platform.messages.empty());
-  EXPECT_EQ(page(), wald);
-}
-
 // The pages past Wald as a student reads them, the Hurwicz one ending as the
 // printed page does; leaving from there, the next activation starts at Wald.
 TEST_F(IncertidumbreScreens, PagesCarryTheirCriteriaAndEachActivationStartsAtWald) {
@@ -182,28 +120,6 @@ TEST_F(IncertidumbreScreens, PagesCarryTheirCriteriaAndEachActivationStartsAtWal
   EXPECT_EQ(visibleButtons(), (Buttons{"forward1", "volver"}));
   press(kSolution, "forward1");
   EXPECT_NE(page().find("Alternativa 4 :                            30\n"), std::string::npos);
-}
-
-TEST_F(IncertidumbreScreens, RediseñarTablaReshapesKeepingTheTexts) {
-  openLibro();
-  const std::pair<int, int> shapes[] = {{1, 1}, {2, 6}, {7, 7}, {4, 4}};
-  for (auto [na, ne] : shapes) {
-    SCOPED_TRACE(std::to_string(na) + "x" + std::to_string(ne));
-    select(na, ne);
-    control(kEntry, "Alfa")->setFocus();
-    press(kEntry, "RediseñarTabla");
-    EXPECT_TRUE(platform.messages.empty());
-    for (int k = 0; k < 7; ++k) {
-      EXPECT_EQ(shown(QString("LblEstados(%1)").arg(k)), k < ne) << k;
-      EXPECT_EQ(shown(QString("LblAlternativas(%1)").arg(k)), k < na) << k;
-      for (int j = 1; j <= 7; ++j)
-        EXPECT_EQ(shown(QString("C%1(%2)").arg(j).arg(k)), j <= ne && k < na) << j << "," << k;
-    }
-    EXPECT_EQ(focused(kEntry), "C1(0)");
-  }
-  EXPECT_EQ(text(kEntry, "C4(3)"), "0");
-  EXPECT_EQ(text(kEntry, "C1(0)"), "20");
-  EXPECT_EQ(control<QLabel>(kEntry, "LblEstados(6)")->text(), "Estado 7");
 }
 
 TEST_F(IncertidumbreScreens, RediseñarTablaWantsBothNumbers) {
