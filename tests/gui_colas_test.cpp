@@ -1,6 +1,7 @@
-// The queueing screens driven offscreen: the option buttons and Servicios
-// with the enabling they drive, the entry's activation on each return, the
-// checks the options bring in and nuevo.
+// The queueing screens driven offscreen, the desktop's wiring of the form's
+// edits: the option buttons and Servicios with the enabling, captions and
+// tips they drive, the entry's activation on each return, and nuevo (the
+// checks: colas_test).
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -55,37 +56,6 @@ class ColasScreens : public ScreenTest {
     return out;
   }
 };
-
-TEST_F(ColasScreens, TheEntryShowsItsCaptionsAndFirstEnabling) {
-  EXPECT_EQ(screen(kEntry)->windowTitle(), "Teoría de Colas");
-  EXPECT_EQ(control<QAbstractButton>(kEntry, "volver"), nullptr);
-  EXPECT_EQ(text(kEntry, "Título"), "Problema 1");
-  const char* options[][2] = {{"ColaIlimitada", "Línea de Espera Ilimitada"},
-                              {"ColaLimitada", "Línea de Espera Limitada"},
-                              {"FuenteFinita", "Fuente de Entrada Finita"}};
-  for (auto& o : options) EXPECT_EQ(control<QRadioButton>(kEntry, o[0])->text(), o[1]);
-  EXPECT_EQ(chosen(), "100");
-  EXPECT_EQ(enabling(), "....S");
-  EXPECT_EQ(caption("TamañoCola"), "Tamaño        Línea de Espera");
-  EXPECT_EQ(caption("Label8"), "Tamaño         Fuente de entrada");
-  EXPECT_EQ(caption("LblNu"), "Tasa de Servicios");
-  EXPECT_EQ(caption("LblVar"), "Varianza");
-  EXPECT_FALSE(enabled("VarTS"));
-  EXPECT_FALSE(enabled("LblVar"));
-  QStringList captions;
-  for (auto* label : screen(kEntry)->findChildren<QLabel*>()) captions << label->text();
-  for (const char* c :
-       {" Número de  Servidores", " Tasa de Llegadas", "Accesos/unidad de           tiempo",
-        "Servicios/unidad de           tiempo", "Distribución tiempo entre llegadas",
-        "Distribución tiempo entre servicios"})
-    EXPECT_TRUE(captions.contains(c)) << c;
-  auto* llegadas = control<QListWidget>(kEntry, "LLegadas");
-  ASSERT_EQ(llegadas->count(), 1);
-  EXPECT_EQ(llegadas->item(0)->text(), "M");
-  ASSERT_EQ(servicios()->count(), 3);
-  EXPECT_EQ(servicios()->itemText(1), "G");
-  EXPECT_EQ(servicios()->currentText(), "M");
-}
 
 // Each option button chooses the kind of system, enables the fields it asks
 // for and puts Servicios back to "M".
@@ -177,51 +147,6 @@ TEST_F(ColasScreens, EachReturnResetsListsAndEnablingButKeepsTexts) {
   EXPECT_EQ(text(kEntry, "VarTS"), "0.5");
   EXPECT_TRUE(enabled("S"));
   EXPECT_EQ(text(kEntry, "S"), "1");
-}
-
-// The first failing check alone reaches the message box.
-TEST_F(ColasScreens, TheOptionsDecideWhichFieldsAreChecked) {
-  // The option and Servicios decide which fields the checks read (the messages
-  // themselves: the core suite).
-  auto bad = [](const char* what, const char* fault, char lowest) {
-    return std::string("El valor correspondiente ") + what + " " + fault +
-           ", introduzca un valor comprendido entre " + lowest + " y 255";
-  };
-  const char *none = "no existe", *wrong = "no es correcto";
-  const char* const options[] = {"ColaIlimitada", "ColaLimitada", "FuenteFinita"};
-  struct Case {
-    int option, servicio;
-    Values values;
-    std::string message;  // empty: solves
-  } cases[] = {
-      {2, 0, {{"K", "k"}, {"N", "0.5"}}, bad("al tamaño de la fuente de entrada", wrong, '1')},
-      {0, 1, {{"VarTS", ""}}, bad("a la varianza del tiempo de servicios", none, '0')},
-      {0, 2, {{"VarTS", ""}, {"Nu", "3"}}, ""},  // no variance for "D"
-      {0,
-       0,
-       {{"S", "2"}, {"Lambda", "5"}, {"Nu", "2"}},
-       "El sistema no se encuentra en fase estable"},
-      {1, 0, {{"S", "2"}, {"Lambda", "5"}, {"Nu", "2"}}, ""},  // always stable
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.message);
-    screens().reset();
-    platform.messages.clear();
-    screens().show(kEntry);
-    press(kEntry, options[c.option]);
-    if (c.servicio) choose(c.servicio);
-    typeAll({{"S", "1"}, {"K", "3"}, {"N", "4"}, {"Lambda", "1"}, {"Nu", "2"}, {"VarTS", "1"}});
-    typeAll(c.values);
-    press(kEntry, "Resolver");
-    if (c.message.empty()) {
-      EXPECT_TRUE(platform.messages.empty());
-      EXPECT_TRUE(visible(kSolution));
-      continue;
-    }
-    EXPECT_EQ(platform.messages, std::vector<std::string>{c.message});
-    EXPECT_TRUE(visible(kEntry));
-    EXPECT_EQ(screen(kSolution), nullptr);
-  }
 }
 
 TEST_F(ColasScreens, NuevoBlanksTheFieldsAndChoosesTheUnlimitedQueue) {
