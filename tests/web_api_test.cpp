@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <tuple>
@@ -235,8 +237,12 @@ TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   vorel_unload(screen);
 }
 
-TEST(WebJson, EscapesWhatJsonCannotHoldRaw) {
+TEST(WebJson, EscapesTextsAndWritesNumbersExactly) {
   EXPECT_EQ(web::Json().value(std::string("a\"b\\c\r\n\t\x01")).str(), R"("a\"b\\c\r\n\t\u0001")");
+  // A number reads back as the same double; those JSON has no word for are null.
+  for (double x : {0.1 + 0.2, 1e-300, -2.5e21, 714.2857142857143})
+    EXPECT_EQ(std::strtod(web::Json().number(x).str().c_str(), nullptr), x);
+  EXPECT_EQ(web::Json().number(std::nan("")).str() + web::Json().number(-1 / 0.0).str(), "nullnull");
 }
 
 }  // namespace

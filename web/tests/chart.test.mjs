@@ -4,6 +4,7 @@
 // every k-th when they are many; and, in chromium, labels that neither
 // overlap nor leave the picture.
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { after, before, describe, test } from 'node:test';
 import { chartSvg, formatG } from '../site/js/chart.mjs';
 import { openSite } from './browser.mjs';
@@ -56,6 +57,38 @@ describe('every example chart', () => {
     assert.ok(charts.some((c) => c.chart.kind === 'xy'));
     assert.ok(charts.some((c) => !c.chart.axis.automatic));
     assert.ok(charts.some((c) => c.grafico));
+  });
+
+  // The JSON the browser receives holds what the native program's chart text
+  // (its golden .chart) holds: the texts whole, the numbers to the digits printed.
+  test('each chart holds what its golden chart text holds', () => {
+    const near = (a, b) => Math.abs(a - b) <= 1e-6 * Math.max(1, Math.abs(b));
+    const numbers = (text) => text.match(/-?[\d.]+(?:E[-+]\d+)?/g).map(Number);
+    const compared = charts.filter((c) => !c.grafico).map(({ id, example, chart }) => {
+      const where = `${id} ${example}`;
+      const lines = readFileSync(`${root}/tests/golden/${id}/${example}.chart`, 'utf8').split('\n');
+      assert.equal(lines[0], `Gráfico:${chart.title ? ` ${chart.title}` : ''}`, where);
+      assert.equal(lines[1], chart.kind === 'xy' ? 'Tipo: XY' : 'Tipo: líneas', where);
+      assert.equal(lines[2], `Eje de categorías: ${chart.categoryTitle}`, where);
+      const axis = lines[3].slice(`Eje de valores: ${chart.valueTitle} `.length);
+      assert.ok(lines[3].startsWith(`Eje de valores: ${chart.valueTitle} (`), where);
+      assert.equal(axis === '(automático)', chart.axis.automatic, where);
+      const { minimum, maximum, majorDivision } = chart.axis;
+      if (!chart.axis.automatic) assert.ok(numbers(axis).every((n, k) => near([minimum, maximum, majorDivision][k], n)), where);
+      assert.ok(numbers(lines[4]).every((n, k) => near([chart.pageLeft, chart.pageTop][k], n)), where);
+      const head = lines[5].split('\t').slice(1);
+      const names = chart.kind === 'xy' ? chart.series.flatMap((n) => [`${n} (x)`, `${n} (y)`]) : chart.series;
+      assert.deepEqual(head, names, where);
+      const rows = lines.slice(6, -1).map((line) => line.split('\t'));
+      assert.equal(rows.length, chart.matrix.length, where);
+      rows.forEach(([label, ...cells], r) => {
+        assert.equal(label, chart.rows[r] ?? String(r + 1), where);
+        assert.equal(cells.length, chart.matrix[r].length, where);
+        cells.forEach((cell, k) => assert.ok(near(chart.matrix[r][k], Number(cell)), `${where} ${r} ${k}`));
+      });
+      return where;
+    });
+    assert.ok(compared.length >= 15, `${compared.length} charts compared`);
   });
 
   test('a line and a marker per point of each series, in the desktop colours; the legend; the title', () => {
