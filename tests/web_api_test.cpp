@@ -37,7 +37,6 @@ class WebApi : public ::testing::Test {
  protected:
   void SetUp() override { vorel_load(kEoq); }
   void TearDown() override { vorel_unload(kEoq); }
-  void type(const char* control, const char* text) { ASSERT_TRUE(vorel_set(kEoq, control, text)); }
 };
 
 TEST_F(WebApi, TheTreeHoldsEveryScreenAndGreysTheModelsNotDescribed) {
@@ -75,32 +74,6 @@ TEST_F(WebApi, LoadingDescribesTheScreensAndStartsFromThePresets) {
   EXPECT_FALSE(vorel_set(findModel("mrp")->screen.c_str(), "D", "1"));
 }
 
-TEST_F(WebApi, AnOpenedExampleSolvesToItsGoldenTextAndSavesToTheSameBytes) {
-  for (const char* name : {"libro", "limites"}) {
-    SCOPED_TRACE(name);
-    const std::string file = example(std::string("cep/") + name + ".txt");
-    vorel_open(kEoq, file.data(), static_cast<int>(file.size()));
-    const char* saved = vorel_save(kEoq);
-    EXPECT_EQ(std::string(saved, vorel_size()), file);
-    EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[],"solution":"GI_CantidadEconómicaPedido_Solución"})");
-    const std::string solved = vorel_solve(kEoq, 0);
-    EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".report"))));
-    EXPECT_THAT(solved, HasSubstr(quoted(golden(std::string("cep/") + name + ".page"))));
-  }
-}
-
-TEST_F(WebApi, ChecksTellTheFirstFailureAndNuevoKeepsTheTitle) {
-  type("Titulo1", "Mi problema");
-  type("D", "1000");
-  type("E", "0");
-  EXPECT_EQ(std::string(vorel_check(kEoq)),
-            R"({"messages":[{"text":"Valor del coste de emisión (E) no válido. Introduce un )"
-            R"(nuevo valor entre 0 y 999.999.999","focus":""}],)"
-            R"("solution":"GI_CantidadEconómicaPedido_Solución"})");
-  EXPECT_THAT(std::string(vorel_nuevo(kEoq)),
-              HasSubstr(R"({"Titulo1":{"text":"Mi problema"},"D":{"text":""},"E":{"text":""})"));
-}
-
 TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
   const std::string file = example("cep/libro.txt");
   vorel_open(kEoq, file.data(), static_cast<int>(file.size()));
@@ -117,39 +90,6 @@ TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
               HasSubstr(R"([{"x":6.419,"text":"Solución al problema:  Problema1"}])"));
   for (float& w : widths) w = 1;
   vorel_metrics(widths);
-}
-
-TEST_F(WebApi, ARunTimeErrorComesBackAsTheBoxThePlatformShows) {
-  for (auto [control, text] : {std::pair{"D", "999999999"},
-                               {"E", "999999999"},
-                               {"A", "1E-300"},
-                               {"TS", "1"},
-                               {"dias", "1"},
-                               {"P", "1"}})
-    type(control, text);
-  EXPECT_EQ(std::string(vorel_check(kEoq)), R"({"messages":[],"solution":"GI_CantidadEconómicaPedido_Solución"})");
-  EXPECT_EQ(std::string(vorel_solve(kEoq, 0)),
-            R"({"error":{"number":6,"title":"Vorel","text":"Error en tiempo de ejecución )"
-            R"('6':\n\nDesbordamiento"}})");
-}
-
-// The discount table: a selector whose click shows the rows of the chosen
-// number of intervals, cells with their visibility, row headings.
-// Total costs: the options tick one another off, and Resolver shows the
-// screen of two options or of three as they say.
-TEST(WebApiOptions, TheTickedOptionChoosesTheSolutionScreen) {
-  const std::string screen = findModel("costes-totales")->screen;
-  const std::string loaded = vorel_load(screen.c_str());
-  EXPECT_THAT(loaded, HasSubstr(R"("solutions":{"Select_C_Totales_Sol":{)"));
-  EXPECT_THAT(loaded, HasSubstr(R"("Select_C_Totales_Sol1":{)"));
-  const std::string file = example("costes-totales/dos-opciones.txt");
-  vorel_open(screen.c_str(), file.data(), static_cast<int>(file.size()));
-  EXPECT_THAT(std::string(vorel_check(screen.c_str())), HasSubstr(R"("solution":"Select_C_Totales_Sol")"));
-  ASSERT_TRUE(vorel_set_checked(screen.c_str(), "Option2", 1));
-  const std::string ticked = vorel_edit(screen.c_str(), "Option2");
-  EXPECT_THAT(ticked, HasSubstr(R"("Option1":{"checked":false},"Option2":{"checked":true})"));
-  EXPECT_THAT(std::string(vorel_check(screen.c_str())), HasSubstr(R"("solution":"Select_C_Totales_Sol1")"));
-  vorel_unload(screen.c_str());
 }
 
 // The browsing commands a solution answers with, shown or not: the names of
