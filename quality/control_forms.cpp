@@ -1,5 +1,6 @@
 #include "quality/control_forms.h"
 
+#include <algorithm>
 #include <tuple>
 #include <utility>
 
@@ -320,10 +321,14 @@ const Form<AtributosFields>& atributosForm() {
                               "Número de muestras", {"NPTMuestra", "Tamaño de la muestra"},
                               "Tamaño de la muestra constante", {"Gráfico p", "Gráfico np"},
                               nullptr);
-    for (ui::Control& c : form.entry.controls)
+    auto& controls = form.entry.controls;
+    for (ui::Control& c : controls)
       if (c.buddy == "NPTMuestra") c.name = "Label5";
-    form.entry.controls.push_back(
-        control(ControlKind::Label, "Label6", "(constante, para el gráfico np)", 0, 1, 2));
+    // Beside the constant size, in reading order after it.
+    const auto box = std::find_if(controls.begin(), controls.end(),
+                                  [](const ui::Control& c) { return c.name == "NPTMuestra"; });
+    controls.insert(box + 1, control(ControlKind::Label, "Label6",
+                                     "(constante, para el gráfico np)", 0, 1, 2));
     form.bindings.push_back({"NPTMuestra", [](F& f) { return &f.NPTMuestra.text; },
                              [](F& f) { return &f.NPTMuestra.visible; }});
     form.bindings.push_back({"Label5", {}, [](F& f) { return &f.Label5; }});
