@@ -52,7 +52,7 @@ class ControlChartScreen : public gui::DescribedChartSolutionBase {
 
 // The entry: a block pasted runs down the samples, from one block of 15 rows
 // on to the next, not down the rows on screen; so each column of cells is
-// declared in the order of the samples.
+// declared in the order of the samples. nuevo leaves the focus in the title.
 template <class Fields>
 class ControlEntry : public gui::DescribedEntry<Fields> {
  public:
@@ -75,6 +75,14 @@ class ControlEntry : public gui::DescribedEntry<Fields> {
     }
     if (table) gui::setTableColumns(table, columns);
   }
+
+ protected:
+  // nuevo leaves the focus in the title.
+  void nuevo() override {
+    gui::DescribedEntry<Fields>::nuevo();
+    this->titleField()->setFocus();
+  }
+  using gui::DescribedEntry<Fields>::nuevo;
 };
 
 template <class Fields>

@@ -107,6 +107,13 @@ TEST_F(ControlScreens, TheRemovalStaysOnTheEntryWhenItEndsInARunTimeError) {
   EXPECT_EQ(text(kEntry, "M(20)"), "98.6");
   EXPECT_EQ(text(kEntry, "M(43)"), "99.2");
   EXPECT_EQ(text(kEntry, "Nmuestras"), "45");
+  // nuevo empties the samples, keeps the title, and the focus goes to it.
+  screens().show(kEntry);
+  control<QLineEdit>(kEntry, "Nmuestras")->setFocus();
+  press(kEntry, "nuevo");
+  EXPECT_EQ(text(kEntry, "M(20)"), "");
+  EXPECT_EQ(text(kEntry, "Titulo1"), "Cuarenta y cinco con una fuera");
+  EXPECT_EQ(focused(kEntry), "Titulo1");
 }
 
 // The screen report takes its title from Selec_Van; the page from its own entry.
