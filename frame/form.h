@@ -75,6 +75,9 @@ class Solution {
   // Whether a window command of the screen (volver) can be pressed now; a
   // page may withhold it.
   virtual bool offers(std::string_view /*command*/) const { return true; }
+  // The chart Imprimir paints: the one on view, unless the page keeps an
+  // earlier one (a control chart's first pass, after Recalcular).
+  virtual const Chart& printedChart() const { return pages_.chart; }
   // The messages of a solution the method refused to give (a degenerate first
   // solution): the screen tells them and goes back to its entry, which keeps
   // all it held. Empty where the pages stand.
@@ -106,6 +109,10 @@ struct Form {
   // the others (which solve the same fields), and the name of the one to show.
   std::vector<ui::Description> otherSolutions = {};
   std::string (*resolverShows)(const Fields&) = nullptr;
+  // Where solution screens of the same fields solve in ways of their own (the
+  // charts that open from another chart): the solver, told the screen.
+  std::function<std::unique_ptr<Solution>(Fields& entry, long stepBudget, std::string_view screen)>
+      solverOn = {};
 
   std::string solutionShown(const Fields& f) const {
     return resolverShows ? resolverShows(f) : solution.name;
@@ -115,6 +122,11 @@ struct Form {
     if (solver) return solver(entry, stepBudget);
     Fields copy = entry;
     return std::make_unique<Solution>(model.solveAndReport(copy));
+  }
+  // The activation of the solution screen `screen`.
+  std::unique_ptr<Solution> solve(Fields& entry, long stepBudget, std::string_view screen) const {
+    if (solverOn) return solverOn(entry, stepBudget, screen);
+    return solve(entry, stepBudget);
   }
 
   const Binding<Fields>* binding(std::string_view control) const {
@@ -171,6 +183,9 @@ class EntryForm {
   // solution stays until the next one. Throws DoesNotEnd where the budget
   // was spent (see Solver).
   virtual Solution& solve(long stepBudget = 0) = 0;
+  // The activation of the solution screen `screen` where the model's screens
+  // solve in ways of their own; otherwise as solve.
+  virtual Solution& solveOn(std::string_view /*screen*/, long stepBudget) { return solve(stepBudget); }
   // The last solution, null before the first.
   virtual Solution* lastSolution() = 0;
 };
@@ -236,6 +251,11 @@ class FieldsForm : public EntryForm {
   Solution& solve(long stepBudget) override {
     solution_.reset();
     solution_ = form_.solve(fields_, stepBudget);
+    return *solution_;
+  }
+  Solution& solveOn(std::string_view screen, long stepBudget) override {
+    solution_.reset();
+    solution_ = form_.solve(fields_, stepBudget, screen);
     return *solution_;
   }
   Solution* lastSolution() override { return solution_.get(); }

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "quality/control_forms.h"
 
 namespace vorel::quality {
 
@@ -125,6 +126,7 @@ CatalogueEntry catalogueAtributos() {
       catalogued<AtributosFields>("control-atributos", "ControlCal_AtribP", "", exchange, check,
                                   solveChosenChart<AtributosFields>);
   entry.solutionHelp = "el gráfico p o el np, según la opción del fichero";
+  entry.form = liveForm(atributosForm());
   return entry;
 }
 

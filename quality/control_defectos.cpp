@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "quality/control_forms.h"
 
 namespace vorel::quality {
 
@@ -116,6 +117,7 @@ CatalogueEntry catalogueDefectos() {
       "control-defectos", "ControlCal_NDef", "", exchange, check, solveChosenChart<DefectosFields>);
   entry.solutionHelp =
       "el gráfico c (tamaño constante) o el u (variable), según la opción del fichero";
+  entry.form = liveForm(defectosForm());
   return entry;
 }
 

@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "quality/control_forms.h"
 #include "location_equipment/selec_van.h"
 
 namespace vorel::quality {
@@ -244,6 +245,7 @@ CatalogueEntry catalogueVariables() {
       "control-variables", "ControlCal_V", "", exchange, check,
       [](VariablesFields& f) { return solveAndReport(f, Grafico::Medias); });
   entry.solutionHelp = "el gráfico de medias (ControlCal_V_Sol)";
+  entry.form = liveForm(variablesForm());
   entry.views = {
       {"desviaciones", "el de desviaciones típicas (ControlCal_V_Sol2), abierto desde el de medias",
        [](const std::string& path) {

@@ -22,6 +22,9 @@ struct VariablesFields {
   std::array<bool, kMaxMuestras> K{};
   std::array<Cell, kMaxMuestras> M{}, S{};
   std::array<bool, 3> Lblk{}, LblM{}, LblR{}, LblS{};  // heads of the three blocks of 15 rows
+  // What each chart screen keeps between its activations, by Grafico: its
+  // mean of the Sk (see VariablesScreen::Sbar). No file holds it.
+  std::array<float, 3> Sbar{};
   VariablesFields();
 };
 

@@ -7,6 +7,7 @@
 #include "frame/arith.h"
 #include "quality/control_atributos.h"
 #include "quality/control_defectos.h"
+#include "quality/control_forms.h"
 #include "quality/control_variables.h"
 #include "tests/test_support.h"
 
@@ -206,6 +207,23 @@ TEST(ControlVariables, SbarIsKeptWhileNEqualsIt) {
   f.Nmuestras = "1";
   activate(Grafico::Desviaciones, f, s, "t");
   EXPECT_EQ(s.Sbar, 4.0f);
+}
+
+// The chart screens keep their Sbar in the entry's fields from one
+// activation to the next, each its own: the deviations chart finds N = 2
+// equal to the Sbar it kept and does not take the new deviations.
+TEST(ControlVariables, EachChartScreenKeepsItsSbarBetweenActivations) {
+  VariablesFields f = variables("5", {"1", "1"}, {"2", "2"});
+  variablesChart(f, "ControlCal_V_Sol2", "t");
+  f.S[0].text = f.S[1].text = "4";
+  const auto desviaciones = variablesChart(f, "ControlCal_V_Sol2", "t");
+  EXPECT_NE(renderText(desviaciones->pages().screen).find("Smedia:                      2\n"),
+            std::string::npos);
+  const auto recorridos = variablesChart(f, "ControlCal_V_Sol3", "t");
+  const std::string text = renderText(recorridos->pages().screen);
+  const std::size_t line = text.find("Recorrido Medio :");
+  ASSERT_NE(line, std::string::npos);
+  EXPECT_EQ(text.substr(text.find_first_not_of(' ', line + 17), 2), "4\n");
 }
 
 TEST(ControlVariables, RediseñarShowsRowsAndTheHeadsOfTheirBlocks) {

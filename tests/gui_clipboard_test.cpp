@@ -17,7 +17,7 @@
 #include <map>
 
 #include "frame/catalogue.h"
-#include "frame/gui/chart_screen.h"
+#include "frame/gui/described_chart.h"
 #include "frame/gui/clipboard.h"
 #include "frame/navigation.h"
 #include "tests/gui_support.h"
@@ -217,7 +217,7 @@ TEST_F(Clipboard, CellsCopyOutAsTabSeparatedText) {
 TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   openFile(kControl, examplePath("control-variables", "cuarenta-y-cinco.txt"));
   press(kControl, "Resolver");
-  auto* solution = dynamic_cast<gui::ChartSolutionScreen*>(screen(kMedias));
+  auto* solution = dynamic_cast<gui::DescribedChartSolutionBase*>(screen(kMedias));
   ASSERT_NE(solution, nullptr);
   const std::string report = golden("control-variables", "cuarenta-y-cinco.txt", "report");
 
@@ -232,7 +232,7 @@ TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   EXPECT_EQ(clipboard().text().toStdString(), report);
 
   clipboard().clear();
-  copy(solution->MSChart1());
+  copy(solution->chartView());
   const QMimeData* data = clipboard().mimeData();
   ASSERT_TRUE(data->hasImage());
   const QImage picture = qvariant_cast<QImage>(data->imageData());
@@ -248,7 +248,7 @@ TEST_F(Clipboard, ReportsAndChartsCopyOut) {
   EXPECT_EQ(lines.size(), 45 + 2);
 
   clipboard().clear();
-  std::unique_ptr<QMenu> chartMenu(gui::chartMenu(solution->MSChart1()));
+  std::unique_ptr<QMenu> chartMenu(gui::chartMenu(solution->chartView()));
   chartMenu->findChild<QAction*>("Copiar")->trigger();
   EXPECT_TRUE(clipboard().mimeData()->hasImage());
   EXPECT_EQ(clipboard().text(), points);
@@ -279,14 +279,14 @@ TEST_F(Clipboard, RightClickMenusPasteAndCopy) {
 
   openFile(kControl, examplePath("control-variables", "cuarenta-y-cinco.txt"));
   press(kControl, "Resolver");
-  auto* solution = dynamic_cast<gui::ChartSolutionScreen*>(screen(kMedias));
+  auto* solution = dynamic_cast<gui::DescribedChartSolutionBase*>(screen(kMedias));
   ASSERT_NE(solution, nullptr);
   clipboard().clear();
   rightClick(solution->Solucion1()->widget(), "Copiar");
   EXPECT_EQ(clipboard().text().toStdString(),
             golden("control-variables", "cuarenta-y-cinco.txt", "report"));
   clipboard().clear();
-  rightClick(solution->MSChart1()->viewport(), "Copiar");
+  rightClick(solution->chartView()->viewport(), "Copiar");
   ASSERT_NE(clipboard().mimeData(), nullptr);
   EXPECT_TRUE(clipboard().mimeData()->hasImage());
   EXPECT_TRUE(clipboard().text().startsWith("Punto\tMedias"));

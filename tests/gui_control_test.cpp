@@ -1,10 +1,16 @@
-// The control-chart screens driven offscreen: the removal that edits the entry
-// screen, Recalcular until the process is in control, the buttons of the
-// means chart, the charts' own Volver, the calls on objects never set, and
-// the chart page.
+// The control-chart screens, drawn from their descriptions, driven offscreen:
+// the removal that edits the entry screen (also when it ends in a run-time
+// error), Recalcular until the process is in control with its own report and
+// chart while the page keeps the first pass's, the buttons of the means
+// chart, the charts' own Volver, the calls on objects never set, the chart
+// page, and the options of no family.
 #include <gtest/gtest.h>
 
+#include <QRadioButton>
+
+#include "frame/gui/described_chart.h"
 #include "frame/gui/model_screens.h"
+#include "quality/control_atributos.h"
 #include "tests/gui_support.h"
 #include "tests/test_support.h"
 
@@ -41,11 +47,22 @@ TEST_F(ControlScreens, RemovalAndRecalcularEditTheEntry) {
   EXPECT_EQ(text(kEntry, "M(9)"), "");
   expectButtons(true, true, false);
 
+  // Recalcular paints its own report and draws its own chart; the page
+  // keeps the first pass's chart, which Imprimir draws on screen again.
+  auto* medias = dynamic_cast<gui::DescribedChartSolutionBase*>(screen(kMedias));
+  ASSERT_NE(medias, nullptr);
+  const Chart first = medias->chart();
+  EXPECT_EQ(medias->chartView()->data(), first);
   press(kMedias, "Recalcular");
   EXPECT_TRUE(has(kMedias, "LSC:                         22.21303"));
   EXPECT_TRUE(has(kMedias, "El punto 4 está fuera de los límites de control"));
   EXPECT_EQ(text(kEntry, "Nmuestras"), "8");
   expectButtons(true, false, false);
+  EXPECT_EQ(medias->chart(), first);
+  EXPECT_EQ(medias->chartView()->data().matrix.size(), 9u);
+  platform.printTo(QString::fromStdString(tempPath("recalculado.pdf")));
+  press(kMedias, "Imprimir");
+  EXPECT_EQ(medias->chartView()->data(), first);
 
   press(kMedias, "Recalcular");
   EXPECT_TRUE(has(kMedias, "La media del proceso está bajo control"));
@@ -56,6 +73,7 @@ TEST_F(ControlScreens, RemovalAndRecalcularEditTheEntry) {
   // to the means chart, which computes again from the entry as it stands.
   press(kMedias, "ControlDesviaciones");
   EXPECT_FALSE(visible(kMedias));
+  EXPECT_EQ(control<QLabel>(kDesviaciones, "Label2")->text(), "Gráfico de Desviaciones Típicas");
   EXPECT_TRUE(has(kDesviaciones, "Smedia:                      1\n"));
   press(kDesviaciones, "volver");
   EXPECT_TRUE(visible(kMedias));
@@ -76,6 +94,26 @@ TEST_F(ControlScreens, CallsOnObjectsNeverSetEndInTheirRunTimeError) {
   press(kDesviaciones, "volver");
   press(kMedias, "Redibujar");
   EXPECT_EQ(platform.runtimeErrors, (std::vector<int>{91, 91}));
+}
+
+// With 45 samples the removal reads past the last row: the rows it moved up
+// before that stay moved on the entry screen.
+TEST_F(ControlScreens, TheRemovalStaysOnTheEntryWhenItEndsInARunTimeError) {
+  openFile(kEntry, examplePath("control-variables", "cuarenta-y-cinco-fuera.txt"));
+  // Sample 21 (130) is out: the samples below it moved up one row.
+  ASSERT_EQ(text(kEntry, "M(20)"), "130");
+  press(kEntry, "Resolver");
+  EXPECT_EQ(platform.runtimeErrors, (std::vector<int>{9}));
+  EXPECT_EQ(text(kEntry, "M(20)"), "98.6");
+  EXPECT_EQ(text(kEntry, "M(43)"), "99.2");
+  EXPECT_EQ(text(kEntry, "Nmuestras"), "45");
+  // nuevo empties the samples, keeps the title, and the focus goes to it.
+  screens().show(kEntry);
+  control<QLineEdit>(kEntry, "Nmuestras")->setFocus();
+  press(kEntry, "nuevo");
+  EXPECT_EQ(text(kEntry, "M(20)"), "");
+  EXPECT_EQ(text(kEntry, "Titulo1"), "Cuarenta y cinco con una fuera");
+  EXPECT_EQ(focused(kEntry), "Titulo1");
 }
 
 // The screen report takes its title from Selec_Van; the page from its own entry.
@@ -104,6 +142,26 @@ TEST_F(ControlScreens, ImprimirPrintsTheChartPage) {
   EXPECT_NE(printed.find("CONTROL POR VARIABLES. Gráfico de Medias"), std::string::npos);
   EXPECT_NE(printed.find("La media del proceso no está bajo control estadístico"),
             std::string::npos);
+}
+
+// The options belong to no family: a file may leave both unticked, and a
+// click on the ticked one keeps it ticked, through the model's click.
+TEST_F(ControlScreens, OptionsOfNoFamilyAsAFileLeavesThem) {
+  const std::string entry = "ControlCal_AtribP";
+  screens().show(entry);
+  auto* screenOf = dynamic_cast<gui::ModelEntry<quality::AtributosFields>*>(screen(entry));
+  ASSERT_NE(screenOf, nullptr);
+  quality::AtributosFields f;
+  f.Option1 = f.Option2 = false;
+  screenOf->setFields(f);
+  EXPECT_FALSE(control<QRadioButton>(entry, "Option1")->isChecked());
+  EXPECT_FALSE(control<QRadioButton>(entry, "Option2")->isChecked());
+  press(entry, "Option2");
+  press(entry, "Option2");
+  EXPECT_TRUE(control<QRadioButton>(entry, "Option2")->isChecked());
+  EXPECT_FALSE(control<QRadioButton>(entry, "Option1")->isChecked());
+  EXPECT_TRUE(shown(entry, "Labelr"));
+  EXPECT_FALSE(shown(entry, "labelrn"));
 }
 
 // The option chooses the chart; the np chart goes back to the entry; the

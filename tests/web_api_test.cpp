@@ -177,6 +177,29 @@ TEST(WebApiLayout, BalancingRunsInSlicesAndACycleNeverEnds) {
   vorel_unload(screen);
 }
 
+// Control by variables: each chart screen solves its own chart on the live
+// fields; the means chart offers what its state says; Recalcular takes
+// samples out of the fields the entry then shows, and the page keeps the
+// first pass's chart; the deviations chart's Imprimir raises its error.
+TEST(WebApiControl, ChartsSolveOnTheirScreenAndRecalcularEditsTheFields) {
+  const char* screen = "ControlCal_V";
+  Loaded loaded(screen, "control-variables/recalculo-saca-nuevos.txt");
+  const std::string medias = vorel_solve_on(screen, "ControlCal_V_Sol", 0);
+  EXPECT_THAT(medias, HasSubstr(quoted(golden("control-variables/recalculo-saca-nuevos.report"))));
+  EXPECT_EQ(shownCommands(medias), (Shown{"ControlDesviaciones", "Imprimir", "Recalcular",
+                                          "Redibujar", "volver"}));
+  EXPECT_THAT(medias, Not(HasSubstr(R"("pageChart")")));
+  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"("Nmuestras":{"text":"9"})"));
+  const std::string recalculado = vorel_press(screen, "Recalcular");
+  EXPECT_THAT(recalculado, HasSubstr("El punto 4 está fuera de los límites de control"));
+  EXPECT_THAT(recalculado, HasSubstr(R"("pageChart")"));
+  EXPECT_THAT(std::string(vorel_fields(screen)), HasSubstr(R"("Nmuestras":{"text":"8"})"));
+  const std::string desviaciones = vorel_solve_on(screen, "ControlCal_V_Sol2", 0);
+  EXPECT_THAT(screenText(desviaciones), HasSubstr("Smedia:"));
+  EXPECT_THAT(screenText(desviaciones), Not(HasSubstr("Media:")));
+  EXPECT_THAT(std::string(vorel_press(screen, "Imprimir")), HasSubstr(R"("number":91)"));
+}
+
 TEST(WebJson, EscapesTextsAndWritesNumbersExactly) {
   EXPECT_EQ(web::Json().value(std::string("a\"b\\c\r\n\t\x01")).str(), R"("a\"b\\c\r\n\t\u0001")");
   // A number reads back as the same double; those JSON has no word for are null.

@@ -291,10 +291,14 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   writeLaidOut(j, "page", pages.page);
   j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
   if (!pages.chart.empty()) j.key("chart").raw(chartJson(pages.chart));
+  // The chart the page keeps where it is not the one on view.
+  if (!(solution.printedChart() == pages.chart))
+    j.key("pageChart").raw(chartJson(solution.printedChart()));
   j.key("commands").open('{');
   for (const ui::Description* d : f.solutions()) {
     for (const ui::Command& c : d->commands)
-      if (c.action == ui::Action::Browse) j.field(c.name, solution.shows(c.name));
+      if (c.action == ui::Action::Browse || c.action == ui::Action::Show)
+        j.field(c.name, solution.shows(c.name));
   }
   for (const ui::Command& c : f.solution().chrome)
     if (c.action == ui::Action::Volver) j.field(c.name, solution.shows(c.name));
@@ -303,10 +307,6 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   for (const ui::Command& c : f.solution().chrome) j.field(c.name, solution.offers(c.name));
   j.close('}');
   if (!solution.refusal().empty()) writeMessages(j, solution.refusal(), "refused");
-  // The entry's fields as the solution left them (the results Resolver writes
-  // into its boxes, the samples a chart removes).
-  j.key("fields");
-  writeFields(j, f);
   return give(j.close('}'));
 }
 
@@ -436,6 +436,18 @@ const char* vorel_solve(const char* screen, double stepBudget) {
   if (!f) return failure("not loaded");
   try {
     return solutionOf(*f, f->solve(static_cast<long>(stepBudget)));
+  } catch (const DoesNotEnd&) {
+    return give(Json().open('{').field("doesNotEnd", true).close('}'));
+  } catch (const std::exception& e) {
+    return runtimeError(e);
+  }
+}
+
+const char* vorel_solve_on(const char* screen, const char* solution, double stepBudget) {
+  EntryForm* f = form(screen);
+  if (!f) return failure("not loaded");
+  try {
+    return solutionOf(*f, f->solveOn(solution, static_cast<long>(stepBudget)));
   } catch (const DoesNotEnd&) {
     return give(Json().open('{').field("doesNotEnd", true).close('}'));
   } catch (const std::exception& e) {

@@ -36,6 +36,9 @@ const char* vorel_check(const char* screen);
 // that may never end stops once `stepBudget` steps are spent (0: no bound)
 // and answers {"doesNotEnd": true}: the page tries again with more.
 const char* vorel_solve(const char* screen, double stepBudget);
+// The activation of the solution screen `solution` of the entry `screen`, as
+// vorel_solve; a model whose charts open from another solves each its own way.
+const char* vorel_solve_on(const char* screen, const char* solution, double stepBudget);
 // A browsing command of the solution screen: the solution as vorel_solve
 // gives it.
 const char* vorel_press(const char* screen, const char* command);

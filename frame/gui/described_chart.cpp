@@ -1,6 +1,7 @@
 #include "frame/gui/described_chart.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPaintDevice>
 #include <QPainter>
 
@@ -26,13 +27,24 @@ DescribedChartSolutionBase::DescribedChartSolutionBase(const ui::Description& d)
   row->addWidget(Solucion1(), 0, Qt::AlignTop);
   row->addWidget(chart_, 0, Qt::AlignTop);
   body()->insertLayout(at, row);
+  // The description's labels (the chart's name) stand above the report.
+  int above = at;
+  for (const ui::Control& c : d.controls)
+    if (c.kind == ui::ControlKind::Label) {
+      auto* label = new QLabel(QString::fromStdString(c.text), this);
+      label->setObjectName(QString::fromStdString(c.name));
+      label->setStyleSheet("font-size: 12pt; font-weight: 600; color: #2D3748;");
+      body()->insertWidget(above++, label);
+    }
   const nav::ScreenInfo* carrier = nav::findScreen(d.name + "_Imprimir");
   if (carrier && carrier->kind == nav::Kind::ChartPrint) printScreen_ = carrier->name;
 }
 
 void DescribedChartSolutionBase::draw(const Pages& pages) {
-  data_ = pages.chart;
-  chart_->setData(data_);
+  // The page may keep an earlier chart than the one on view (see
+  // Solution::printedChart); Imprimir draws it on screen again.
+  data_ = solution() ? solution()->printedChart() : pages.chart;
+  chart_->setData(pages.chart);
 }
 
 void DescribedChartSolutionBase::imprimir() {

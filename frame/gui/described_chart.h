@@ -41,7 +41,7 @@ class DescribedChartSolution : public DescribedChartSolutionBase {
  protected:
   std::unique_ptr<Solution> solveWith(long stepBudget) override {
     fields_ = entry<DescribedEntry<Fields>>().fields();
-    return form_.solve(fields_, stepBudget);
+    return form_.solve(fields_, stepBudget, name());
   }
 
  private:

@@ -349,10 +349,25 @@ DescribedSolutionBase::DescribedSolutionBase(const ui::Description& d)
       auto* button = command(c, [this, name = c.name] {
         if (!solution_) return;
         readEntry();
-        if (solution_->press(name)) showSolution();
+        bool shown = false;
+        try {
+          shown = solution_->press(name);
+        } catch (...) {
+          pressed();
+          throw;
+        }
+        pressed();
+        if (shown) showSolution();
       });
       QVBoxLayout* column = captioned(button);
       commandRow()->insertLayout(at++, column);
+    } else if (c.action == ui::Action::Show) {
+      // Another solution screen of the model, in place of this one.
+      auto* button = command(c, [target = c.target, hides = c.hides] {
+        if (!hides.empty()) Screens::instance().hide(hides);
+        Screens::instance().show(target);
+      });
+      commandRow()->insertLayout(at++, captioned(button));
     }
   offerCommands();
 }
@@ -404,7 +419,7 @@ void DescribedSolutionBase::offerCommands() {
         button->setVisible(solution_ ? solution_->shows(c.name) : c.visible);
     }
   for (const ui::Command& c : description_.commands) {
-    if (c.action != ui::Action::Browse) continue;
+    if (c.action != ui::Action::Browse && c.action != ui::Action::Show) continue;
     auto* button = findChild<QAbstractButton*>(text(c.name));
     if (!button) continue;
     const bool shown = solution_ ? solution_->shows(c.name) : c.visible;

@@ -180,6 +180,10 @@ class DescribedSolutionBase : public SolutionScreen {
   // Before a browsing command: the fields the solution was given take the
   // entry screen's as they stand, as the browser's live fields do.
   virtual void readEntry() {}
+  // After a browsing command, also one that failed: where the solution
+  // changed the fields it was given (the samples Recalcular takes out), the
+  // entry screen takes them.
+  virtual void pressed() {}
   Pages compute() override;
   // Paints the solution as it stands after a browsing command.
   void showSolution();
@@ -203,7 +207,7 @@ class DescribedSolution : public DescribedSolutionBase {
   std::unique_ptr<Solution> solveWith(long stepBudget) override {
     auto& entryScreen = entry<DescribedEntry<Fields>>();
     fields_ = entryScreen.fields();
-    std::unique_ptr<Solution> solved = form_.solve(fields_, stepBudget);
+    std::unique_ptr<Solution> solved = form_.solve(fields_, stepBudget, name());
     // A solver works on the entry's own fields: what it changes there (the
     // model it chose, the samples it removed) shows on the entry screen.
     if (form_.solver) entryScreen.setFields(fields_);

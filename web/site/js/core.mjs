@@ -36,6 +36,10 @@ export async function loadCore() {
     // A step budget of 0 sets no bound; see vorel_solve.
     solve: (screen, stepBudget = 0) =>
       JSON.parse(m.ccall('vorel_solve', 'string', ['string', 'number'], [screen, stepBudget])),
+    // The activation of the solution screen `solution` of the entry `screen`.
+    solveOn: (screen, solution, stepBudget = 0) =>
+      JSON.parse(m.ccall('vorel_solve_on', 'string', ['string', 'string', 'number'],
+        [screen, solution, stepBudget])),
     press: (screen, command) => json('vorel_press', screen, command),
     // abrir: the file's bytes as they are on disk (Windows-1252, CR LF).
     open: (screen, bytes) =>

@@ -127,6 +127,12 @@ export class Desk {
       await this.run(() => this.runEdit(name, this.loaded.get(name).arrival));
       return;
     }
+    // An entry screen shows its fields as the core holds them: a solution
+    // may have changed them (the samples a control chart takes out).
+    if (info.kind === 'entry') {
+      this.showFields(name, this.core.fields(name));
+      return;
+    }
     if (info.kind !== 'solution') return;
     const screen = this.loaded.get(name);
     clearReport(screen.element.querySelector('.informe'));
@@ -137,7 +143,7 @@ export class Desk {
     for (let budget = FIRST_SLICE, took = 0; ;
       budget = took < SLICE_MS ? Math.min(budget * 2, LONGEST_SLICE) : budget) {
       const started = performance.now();
-      solved = this.core.solve(info.entry, budget);
+      solved = this.core.solveOn(info.entry, name, budget);
       took = performance.now() - started;
       if (!solved.doesNotEnd) break;
       for (const b of locked) b.disabled = true;
@@ -163,9 +169,6 @@ export class Desk {
   showSolution(name, solved) {
     const screen = this.loaded.get(name);
     screen.pages = solved;
-    // What the solution wrote into its entry shows there.
-    const { entry } = this.info.get(name);
-    if (solved.fields && this.loaded.has(entry)) this.showFields(entry, solved.fields);
     paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
     showCommands(screen.element, solved.commands, solved.offered);
     screen.element.querySelector('.grafico')?.remove();
@@ -333,8 +336,10 @@ export class Desk {
   // prints. The bar offers what is gathered until the student prints it, and
   // leaving the app prints it, as ending the desktop program does.
   imprimir(name) {
-    const { pages } = this.loaded.get(name);
+    const { pages, element } = this.loaded.get(name);
     if (!pages) return;
+    // The chart on view becomes the one the page keeps, as on paper.
+    if (pages.pageChart) element.querySelector('.grafico')?.replaceChildren(chartSvg(pages.pageChart));
     if (gatherPage(this.places.printView, pages)) this.printGathered();
     else this.render();
   }

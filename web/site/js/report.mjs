@@ -65,20 +65,22 @@ export function gatherPage(view, solved) {
   const px = Math.min(PAGE_PX, PRINTABLE.width / Math.max(widestLine(solved.page), 1));
   const sheet = el('div', { className: 'impreso' });
   paint(sheet, solved.page, px);
-  if (solved.chart) {
-    const left = PRINTABLE.width * solved.chart.pageLeft;
-    const top = PRINTABLE.height * solved.chart.pageTop;
+  // The chart the page keeps, where it is not the one on view.
+  const chart = solved.pageChart ?? solved.chart;
+  if (chart) {
+    const left = PRINTABLE.width * chart.pageLeft;
+    const top = PRINTABLE.height * chart.pageTop;
     const width = Math.max(0, Math.min(CHART.width, PRINTABLE.width - left));
     sheet.append(el('div', {
       className: 'grafico-impreso',
       style: `left: ${left.toFixed(2)}px; top: ${top.toFixed(2)}px; width: ${width.toFixed(2)}px`,
-    }, chartSvg(solved.chart)));
+    }, chartSvg(chart)));
     sheet.classList.add('con-grafico');
     sheet.style.height = `${PRINTABLE.height}px`;
   }
   sheet.dataset.text = solved.pageText;
   view.append(sheet);
-  return Boolean(solved.chart);
+  return Boolean(chart);
 }
 
 // The gathered document through the browser's print dialog (a printer, or a

@@ -169,13 +169,17 @@ export function solutionScreen(info, d, press) {
   });
   const commands = d.commands.map((c) => {
     const picture = commandPicture(c, press, { captioned: true });
-    if (c.action === 'browse') {
+    if (c.action === 'browse' || c.action === 'show') {
       picture.classList.add('hojear');
       picture.hidden = !c.visible;
     }
     return picture;
   });
-  return windowFrame(ownChrome(info, d), d.heading, press, box, el('div', { className: 'ordenes' }, commands));
+  // The description's labels (a chart's name) above the report.
+  const labels = d.controls.filter((c) => c.kind === 'label')
+    .map((c) => el('p', { className: 'rotulo-solucion', name: c.name, textContent: c.text }));
+  return windowFrame(ownChrome(info, d), d.heading, press, ...labels, box,
+    el('div', { className: 'ordenes' }, commands));
 }
 
 // The window's commands under the names the screen's description gives them
