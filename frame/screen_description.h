@@ -102,6 +102,8 @@ struct Description {
   // An entry screen: the edit of the fields (see Form::edits) that each
   // arrival on the screen runs, the first included; none where empty.
   std::string activate;
+  // An entry screen: the control nuevo leaves the focus in, if any.
+  std::string nuevoFocus;
 };
 
 // A control of `kind` at its place on a grid of the screen (see Control).

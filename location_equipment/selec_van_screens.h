@@ -7,11 +7,6 @@
 
 namespace vorel::location_equipment {
 
-// The title typed on Selec_Van (its Titulo1), which other screens' reports
-// also carry; reading it loads Selec_Van if it is not loaded, as reading
-// another form's control does.
-std::string selecVanTitulo1();
-
 void registerVanScreens();
 
 }  // namespace vorel::location_equipment

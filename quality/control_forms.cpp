@@ -141,6 +141,7 @@ Form<F> entrada(std::string_view screen, std::string heading, const char* nombre
   ui::Description& d = form.entry = ui::fieldEntry(
       screen, std::move(heading), "", "Titulo1", "Problema1",
       {{"Nmuestras", nombreN}, {segundo.first, segundo.second}});
+  d.nuevoFocus = "Titulo1";
   for (ui::Control& c : d.controls) {
     if (c.name == "Nmuestras") c.toolTip = ayudaN;
     if (c.name == segundo.first) c.toolTip = ayudaSegundo;
@@ -305,9 +306,9 @@ const Form<VariablesFields>& variablesForm() {
           screen, label, {orden("Redibujar", "Redibujar", "cmd-resolver", ui::Action::Browse, true)},
           false));
     form.model = {nuevo, exchange, check, mediasPages};
-    form.solver = [](F& f, long) { return variablesChart(f, kV[0], selecVanTitulo1Preset()); };
+    form.solver = [](F& f, long) { return variablesChart(f, kV[0], selecVanTitulo1()); };
     form.solverOn = [](F& f, long, std::string_view screen) {
-      return variablesChart(f, screen, selecVanTitulo1Preset());
+      return variablesChart(f, screen, selecVanTitulo1());
     };
     return form;
   }();

@@ -11,7 +11,6 @@
 #include "frame/checks.h"
 #include "frame/gui/clipboard.h"
 #include "frame/gui/described_chart.h"
-#include "location_equipment/selec_van_screens.h"
 #include "quality/control_forms.h"
 
 namespace vorel::quality {
@@ -52,7 +51,7 @@ class ControlChartScreen : public gui::DescribedChartSolutionBase {
 
 // The entry: a block pasted runs down the samples, from one block of 15 rows
 // on to the next, not down the rows on screen; so each column of cells is
-// declared in the order of the samples. nuevo leaves the focus in the title.
+// declared in the order of the samples.
 template <class Fields>
 class ControlEntry : public gui::DescribedEntry<Fields> {
  public:
@@ -75,14 +74,6 @@ class ControlEntry : public gui::DescribedEntry<Fields> {
     }
     if (table) gui::setTableColumns(table, columns);
   }
-
- protected:
-  // nuevo leaves the focus in the title.
-  void nuevo() override {
-    gui::DescribedEntry<Fields>::nuevo();
-    this->titleField()->setFocus();
-  }
-  using gui::DescribedEntry<Fields>::nuevo;
 };
 
 template <class Fields>
@@ -97,11 +88,9 @@ void registerControl(const Form<Fields>& form, typename ControlChartScreen<Field
 
 }  // namespace
 
-// The screen reports take their title from Selec_Van's Titulo1, loading that
-// screen where it is not.
 void registerVariablesScreens() {
   registerControl(variablesForm(), [](VariablesFields& f, std::string_view screen) {
-    return variablesChart(f, screen, location_equipment::selecVanTitulo1());
+    return variablesChart(f, screen, selecVanTitulo1());
   });
 }
 

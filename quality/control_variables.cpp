@@ -2,6 +2,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "frame/live_text.h"
 #include "quality/control_forms.h"
 #include "location_equipment/selec_van.h"
 
@@ -215,10 +216,12 @@ Report printout(Grafico g, const VariablesFields& f, const VariablesScreen& s) {
   return {};
 }
 
-std::string selecVanTitulo1Preset() { return location_equipment::VanFields{}.Titulo1; }
+std::string selecVanTitulo1() {
+  return liveText("Selec_Van", "Titulo1").value_or(location_equipment::VanFields{}.Titulo1);
+}
 
 Pages solveAndReport(VariablesFields& f, Grafico g) {
-  const std::string title = selecVanTitulo1Preset();
+  const std::string title = selecVanTitulo1();
   VariablesScreen medias;
   Painted painted = activate(Grafico::Medias, f, medias, title);
   if (g == Grafico::Medias) return {painted.report, printout(g, f, medias), medias.chart};

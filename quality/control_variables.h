@@ -57,8 +57,9 @@ Painted recalcular(Grafico g, VariablesFields& f, VariablesScreen& s, const std:
 Report printout(Grafico g, const VariablesFields& f, const VariablesScreen& s);
 
 // The title that heads the screen reports: Titulo1 of Selec_Van, the entry of
-// the choice of equipment by net present value, as that screen presets it.
-std::string selecVanTitulo1Preset();
+// the choice of equipment by net present value, as it stands on that screen
+// (as that screen presets it where no screens are read).
+std::string selecVanTitulo1();
 
 // A run from the entry: Resolver shows the means chart, whose activation
 // takes samples out; `g` other than Medias then opens that chart from it.

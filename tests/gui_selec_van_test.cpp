@@ -4,7 +4,7 @@
 
 #include <QComboBox>
 
-#include "location_equipment/selec_van_screens.h"
+#include "quality/control_variables.h"
 #include "tests/gui_support.h"
 
 namespace vorel::testing {
@@ -14,9 +14,9 @@ using SelecVanScreens = ScreenTest;
 
 TEST_F(SelecVanScreens, RediseñarShowsTheYearsOfEachInvestment) {
   screens().show("Selec_Van");
-  EXPECT_EQ(location_equipment::selecVanTitulo1(), "Problema1");
+  EXPECT_EQ(quality::selecVanTitulo1(), "Problema1");
   type("Selec_Van", "Titulo1", "Torno");
-  EXPECT_EQ(location_equipment::selecVanTitulo1(), "Torno");
+  EXPECT_EQ(quality::selecVanTitulo1(), "Torno");
   control<QComboBox>("Selec_Van", "NVarA")->setCurrentText("9");
   control<QComboBox>("Selec_Van", "NVarB")->setCurrentText("3");
   press("Selec_Van", "Rediseñar");

@@ -198,6 +198,12 @@ TEST(WebApiControl, ChartsSolveOnTheirScreenAndRecalcularEditsTheFields) {
   EXPECT_THAT(screenText(desviaciones), HasSubstr("Smedia:"));
   EXPECT_THAT(screenText(desviaciones), Not(HasSubstr("Media:")));
   EXPECT_THAT(std::string(vorel_press(screen, "Imprimir")), HasSubstr(R"("number":91)"));
+  // The screen report's title is the one typed on Selec_Van, where it is loaded.
+  vorel_load("Selec_Van");
+  ASSERT_TRUE(vorel_set("Selec_Van", "Titulo1", "Torno"));
+  EXPECT_THAT(screenText(vorel_solve_on(screen, "ControlCal_V_Sol", 0)),
+              HasSubstr("Solución al problema:  Torno"));
+  vorel_unload("Selec_Van");
 }
 
 TEST(WebJson, EscapesTextsAndWritesNumbersExactly) {

@@ -8,6 +8,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/form.h"
+#include "frame/live_text.h"
 #include "web/chart_json.h"
 #include "web/json.h"
 
@@ -140,7 +141,7 @@ void writeList(Json& j, std::string_view key, const std::vector<T>& items) {
 
 void write(Json& j, const ui::Description& d) {
   j.open('{').field("name", d.name).field("heading", d.heading).field("intro", d.intro);
-  j.field("activate", d.activate);
+  j.field("activate", d.activate).field("nuevoFocus", d.nuevoFocus);
   j.key("titleLabel");
   write(j, d.titleLabel);
   j.key("titleField");
@@ -232,6 +233,19 @@ EntryForm* form(const char* screen) {
   auto it = loaded.find(std::string_view(screen));
   return it == loaded.end() ? nullptr : it->second.get();
 }
+
+// Another screen's text for a report that carries it: its live fields where
+// it is loaded; a screen not loaded holds its presets, as the core's own.
+std::optional<std::string> loadedFormText(std::string_view screen, std::string_view control) {
+  auto it = loaded.find(screen);
+  if (it == loaded.end()) return std::nullopt;
+  std::optional<std::string> text;
+  it->second->each([&](const ControlState& c) {
+    if (c.control == control && c.text) text = *c.text;
+  });
+  return text;
+}
+const bool readsLoadedForms = (setLiveTextReader(loadedFormText), true);
 
 // What every bound control of the screen shows: {"D": {"text": "1000"},
 // "A1": {"text": "", "visible": false}, "cmbIntervalos": {"index": 0},

@@ -118,6 +118,11 @@ class DescribedEntry : public ModelEntry<Fields> {
     if (drawn_.table) fitToTable(*this);
   }
   const Form<Fields>& form() const { return form_; }
+  void nuevo() override {
+    ModelEntry<Fields>::nuevo();
+    if (form_.entry.nuevoFocus.empty()) return;
+    if (QWidget* w = control(form_.entry.nuevoFocus)) w->setFocus();
+  }
   // Each arrival runs the description's edit of arrival, where it has one.
   void formActivate() override {
     if (!form_.entry.activate.empty()) Screen::run([this] { runEdit(form_.entry.activate); });
@@ -125,7 +130,6 @@ class DescribedEntry : public ModelEntry<Fields> {
 
  protected:
   // The form's own model functions, which may differ from a file run's.
-  using ModelEntry<Fields>::nuevo;
   void exchange(ProblemFile& file, Fields& f) override { form_.model.exchange(file, f); }
   Messages check(const Fields& f) override { return form_.model.check(f); }
   void nuevo(Fields& f) override { form_.model.nuevo(f); }

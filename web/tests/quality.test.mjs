@@ -1,7 +1,8 @@
 // The control charts in the browser: the activation and Recalcular take
 // samples out of the entry, which shows them gone on the way back; the
 // chart's own buttons show as its state says and open the other charts; the
-// page keeps the first pass's chart; a file may leave both options unticked.
+// page keeps the first pass's chart; a file may leave both options unticked,
+// and nuevo leaves the focus in the title.
 import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import {
@@ -85,4 +86,8 @@ test('options of no family: a file may leave both unticked, and a click runs the
   assert.equal(await control(screen, 'tamano(0)').isHidden(), true);
   assert.equal(await control(screen, 'Labelr').isHidden(), false);
   assert.equal(await control(screen, 'Option1').isChecked(), false);
+  // nuevo ticks Option1 again and leaves the focus in the title.
+  await press(page, 'nuevo');
+  assert.equal(await control(screen, 'Option1').isChecked(), true);
+  assert.equal(await page.evaluate(() => document.activeElement.name), 'Titulo1');
 });

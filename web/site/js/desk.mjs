@@ -57,7 +57,9 @@ export class Desk {
           this.run(() => this.tick(name, control, checked, edit, unticked)),
         focused: (edit) => this.run(() => this.runEdit(name, edit)),
       });
-      this.loaded.set(name, { element, solutions: form.solutions, arrival: form.entry.activate });
+      this.loaded.set(name, {
+        element, solutions: form.solutions, arrival: form.entry.activate, nuevoFocus: form.entry.nuevoFocus,
+      });
       return this.loaded.get(name);
     } else if (info.kind === 'solution') {
       const entry = this.load(info.entry);
@@ -226,7 +228,7 @@ export class Desk {
       case 'volver': this.show(info.volver); return this.hide(name);
       case 'minimizar': this.minimised.add(name); return this.render();
       case 'cerrar': return info.cerrar === 'end' ? this.end() : this.unload(name);
-      case 'nuevo': return this.showFields(name, this.core.nuevo(name));
+      case 'nuevo': return this.nuevo(name);
       case 'abrir': return this.abrir(name);
       case 'guardar': return this.guardar(name);
       case 'resolver': return this.resolver(name, info);
@@ -235,6 +237,13 @@ export class Desk {
       case 'browse': return this.browse(name, info, command.name);
       default: return undefined;
     }
+  }
+
+  // nuevo: the fields as the model empties them, the focus where it leaves it.
+  nuevo(name) {
+    this.showFields(name, this.core.nuevo(name));
+    const { element, nuevoFocus } = this.loaded.get(name);
+    if (nuevoFocus) element.querySelector(`[name="${CSS.escape(nuevoFocus)}"]`)?.focus();
   }
 
   // A selector's click: the choice, then the edit it runs on the fields.
