@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "frame/navigation.h"
@@ -99,6 +100,9 @@ struct Description {
   // An entry screen: the edit of the fields (see Form::edits) that each
   // arrival on the screen runs, the first included; none where empty.
   std::string activate;
+  // Tables shown or hidden as a whole, as a frame is: a group and the name
+  // its visibility is bound by. Another table shows where a control of it does.
+  std::vector<std::pair<int, std::string>> frames;
 };
 
 // A control of `kind` at its place on a grid of the screen (see Control).

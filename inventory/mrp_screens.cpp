@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "frame/gui/described_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/gui/table_screen.h"
 
@@ -16,24 +17,6 @@ const std::string kSolution = "GI_MRP_Solucion1";
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 std::size_t at(int k) { return static_cast<std::size_t>(k); }
-
-QStringList items(const std::vector<std::string>& list) {
-  QStringList out;
-  for (const std::string& s : list) out << qs(s);
-  return out;
-}
-
-// A selector whose text can also be typed, as the counts and the article are.
-QComboBox* typedSelector(QWidget* parent, const QString& name, const std::vector<std::string>& list,
-                         const QString& toolTip = {}) {
-  auto* combo = gui::newSelector(parent, items(list));
-  combo->setObjectName(name);
-  combo->setEditable(true);
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  combo->setToolTip(toolTip);
-  combo->setFixedWidth(list.size() > 9 ? 110 : 64);
-  return combo;
-}
 
 QLabel* caption(QWidget* parent, const QString& text, const QString& name = {}) {
   auto* label = gui::newHeading(parent);
@@ -48,192 +31,7 @@ QLineEdit* cell(QWidget* parent, int width) {
   return box;
 }
 
-// The text of a selector, and its text set as the screen sets it.
-std::string textOf(const QComboBox* c) { return c->currentText().toStdString(); }
-void setText(QComboBox* c, const std::string& text) {
-  const int k = c->findText(qs(text), Qt::MatchExactly);
-  c->setCurrentIndex(k);
-  c->setEditText(qs(text));
-}
-
 }  // namespace
-
-MrpEntry::MrpEntry()
-    : ModelEntry(kEntry, "Inventarios con demanda dependiente: MRP", kMrpIntro, "Titulo1",
-                 "Problema1") {
-  NArt_ = typedSelector(this, "NArt", mrpArticleCounts());
-  NSem_ = typedSelector(this, "NSem", mrpWeekCounts(), "Duración en Años");
-  auto* redesign = gui::redesignButton(
-      *this, [this] { rediseñar(); }, "Rediseñar", "Rediseñar");
-  redesign->setToolTip("Ajusta la tabla al número de años deseados");
-  fieldGrid()->addWidget(caption(this, "Número de Artículos"), 0, 0);
-  fieldGrid()->addWidget(NArt_, 0, 1);
-  fieldGrid()->addWidget(caption(this, "Número de Semanas"), 0, 2);
-  fieldGrid()->addWidget(NSem_, 0, 3);
-  fieldGrid()->addWidget(redesign, 0, 4);
-  fieldGrid()->setColumnStretch(5, 1);
-
-  // The articles, one row each.
-  auto* table = gui::tableFrame(*this);
-  QGridLayout* grid = gui::tableGrid(table);
-  const char* heads[] = {"Artículo",   "Dep",  "Nº E", "Dep",  "Nº E",
-                         "Inventario", "S.S.", "S.C.", "T.S.", "Tamaño"};
-  for (int c = 0; c < 10; ++c) {
-    auto* head = gui::newColumnHead(table);
-    head->setText(heads[c]);
-    if (c == 8) head->setToolTip("Tiempo de Suministro");
-    grid->addWidget(head, 0, c);
-  }
-  auto texts = [&](gui::ControlArray<QLineEdit>& a, const char* name, int column) {
-    a.create(table, name, 0, kMrpArticles - 1, [](QWidget* p) { return cell(p, 64); });
-    for (int k = 0; k < kMrpArticles; ++k) grid->addWidget(a(k), k + 1, column);
-  };
-  auto parents = [&](gui::ControlArray<QComboBox>& a, const char* name, int column, bool second) {
-    a.create(table, name, 0, kMrpArticles - 1, [](QWidget* p) { return gui::newSelector(p, {}); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      a(k)->addItems(items(second ? mrpSecondParentList(k) : mrpParentList(k)));
-      a(k)->setFixedWidth(52);
-      grid->addWidget(a(k), k + 1, column);
-    }
-  };
-  texts(Art_, "Art", 0);
-  parents(D_, "D", 1, false);
-  texts(NEle_, "NEle", 2);
-  parents(D1_, "D1", 3, true);
-  texts(NEle1_, "NEle1", 4);
-  texts(ID_, "ID", 5);
-  texts(Stock_, "Stock", 6);
-  texts(Sc_, "Sc", 7);
-  texts(TS_, "TS", 8);
-  texts(TamañoLote_, "TamañoLote", 9);
-  for (int k = 0; k < kMrpArticles; ++k)
-    TamañoLote_(k)->setToolTip("Tamaño del lote, introduzca L si es lote a lote");
-  grid->setColumnStretch(10, 1);
-  gui::placeTable(body(), fieldGrid(), table);
-
-  // The master production schedule of X.
-  auto* plan = gui::tableFrame(*this);
-  QGridLayout* planGrid = gui::tableGrid(plan);
-  planGrid->addWidget(caption(plan, "Plan Maestro de Producción"), 0, 0, 1, 11, Qt::AlignLeft);
-  planGrid->addWidget(caption(plan, "Semana"), 1, 0);
-  planGrid->addWidget(caption(plan, "Unidades"), 2, 0);
-  SemPA_.create(plan, "SemPA", 0, kMrpWeeks - 1, [](QWidget* p) { return caption(p, {}); });
-  UniPA_.create(plan, "UniPA", 0, kMrpWeeks - 1, [](QWidget* p) { return cell(p, 58); });
-  for (int j = 0; j < kMrpWeeks; ++j) {
-    SemPA_(j)->setText(QString::number(j + 1));
-    UniPA_(j)->setToolTip("Unidades del Plan Maestro de Producción");
-    planGrid->addWidget(SemPA_(j), 1, j + 1);
-    planGrid->addWidget(UniPA_(j), 2, j + 1);
-  }
-  planGrid->setColumnStretch(11, 1);
-  body()->insertWidget(body()->indexOf(table) + 1, plan);
-
-  // The scheduled receipts, one frame per article, one shown at a time.
-  auto* receipts = gui::tableFrame(*this);
-  QGridLayout* receiptGrid = gui::tableGrid(receipts);
-  receiptGrid->addWidget(caption(receipts, "Recepciones Programadas"), 0, 0, Qt::AlignLeft);
-  NoArticulo_ = typedSelector(receipts, "NoArticulo", mrpArticleChoices());
-  NoArticulo_->setCurrentIndex(-1);
-  receiptGrid->addWidget(NoArticulo_, 0, 1, Qt::AlignLeft);
-  auto* show = gui::redesignButton(
-      *this, [this] { mostrar(); }, "Mostrar", "Mostrar");
-  receiptGrid->addWidget(show, 0, 2, Qt::AlignLeft);
-  receiptGrid->setColumnStretch(3, 1);
-  FrmArticulo_.create(receipts, "FrmArticulo", 0, kMrpArticles - 1,
-                      [](QWidget* p) { return new QFrame(p); });
-  for (int x = 0; x < kMrpArticles; ++x) {
-    QFrame* frame = FrmArticulo_(x);
-    auto* g = new QGridLayout(frame);
-    g->setContentsMargins(0, 4, 0, 0);
-    const QString letter = qs(mrpLetter(x));
-    g->addWidget(caption(frame, "Semana " + letter), 0, 0);
-    g->addWidget(caption(frame, "Unidades " + letter), 1, 0);
-    SemRP_[at(x)].create(frame, "SemRP" + letter, 0, kMrpWeeks - 1,
-                         [](QWidget* p) { return caption(p, {}); });
-    Unid_[at(x)].create(frame, "Unid" + letter, 0, kMrpWeeks - 1,
-                        [](QWidget* p) { return cell(p, 58); });
-    for (int j = 0; j < kMrpWeeks; ++j) {
-      SemRP_[at(x)](j)->setText(QString::number(j + 1));
-      g->addWidget(SemRP_[at(x)](j), 0, j + 1);
-      g->addWidget(Unid_[at(x)](j), 1, j + 1);
-    }
-    g->setColumnStretch(kMrpWeeks + 1, 1);
-    receiptGrid->addWidget(frame, 1, 0, 1, 4);
-    frame->setVisible(x == 0);
-  }
-  body()->insertWidget(body()->indexOf(plan) + 1, receipts);
-
-  setFields(MrpFields{});
-}
-
-MrpFields MrpEntry::fields() const {
-  MrpFields f;
-  f.Titulo1 = titleField()->text().toStdString();
-  f.NArt = textOf(NArt_);
-  f.NSem = textOf(NSem_);
-  f.NoArticulo = textOf(NoArticulo_);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t r = at(k);
-    f.Art[r] = gui::readCell(Art_(k));
-    f.NEle[r] = gui::readCell(NEle_(k));
-    f.NEle1[r] = gui::readCell(NEle1_(k));
-    f.ID[r] = gui::readCell(ID_(k));
-    f.Stock[r] = gui::readCell(Stock_(k));
-    f.Sc[r] = gui::readCell(Sc_(k));
-    f.TS[r] = gui::readCell(TS_(k));
-    f.TamañoLote[r] = gui::readCell(TamañoLote_(k));
-    f.UniPA[r] = gui::readCell(UniPA_(k));
-    f.D[r] = {D_(k)->currentIndex(), !D_(k)->isHidden()};
-    f.D1[r] = {D1_(k)->currentIndex(), !D1_(k)->isHidden()};
-    f.SemPA[r] = !SemPA_(k)->isHidden();
-    for (int x = 0; x < kMrpArticles; ++x) {
-      f.SemRP[at(x)][r] = !SemRP_[at(x)](k)->isHidden();
-      f.Unid[at(x)][r] = gui::readCell(Unid_[at(x)](k));
-    }
-  }
-  return f;
-}
-
-void MrpEntry::setFields(const MrpFields& f) {
-  titleField()->setText(qs(f.Titulo1));
-  setText(NArt_, f.NArt);
-  setText(NSem_, f.NSem);
-  setText(NoArticulo_, f.NoArticulo);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t r = at(k);
-    gui::writeCell(Art_(k), f.Art[r]);
-    gui::writeCell(NEle_(k), f.NEle[r]);
-    gui::writeCell(NEle1_(k), f.NEle1[r]);
-    gui::writeCell(ID_(k), f.ID[r]);
-    gui::writeCell(Stock_(k), f.Stock[r]);
-    gui::writeCell(Sc_(k), f.Sc[r]);
-    gui::writeCell(TS_(k), f.TS[r]);
-    gui::writeCell(TamañoLote_(k), f.TamañoLote[r]);
-    gui::writeCell(UniPA_(k), f.UniPA[r]);
-    D_(k)->setCurrentIndex(f.D[r].listIndex);
-    D_(k)->setVisible(f.D[r].visible);
-    D1_(k)->setCurrentIndex(f.D1[r].listIndex);
-    D1_(k)->setVisible(f.D1[r].visible);
-    SemPA_(k)->setVisible(f.SemPA[r]);
-    for (int x = 0; x < kMrpArticles; ++x) {
-      SemRP_[at(x)](k)->setVisible(f.SemRP[at(x)][r]);
-      gui::writeCell(Unid_[at(x)](k), f.Unid[at(x)][r]);
-    }
-  }
-  gui::fitToTable(*this);
-}
-
-void MrpEntry::rediseñar() {
-  // The first cell takes the focus only where a table is shown.
-  if (edit([](MrpFields& f) { return inventory::rediseñar(f); }) && !Art_(0)->isHidden())
-    Art_(0)->setFocus();
-}
-
-void MrpEntry::mostrar() {
-  for (QFrame* frame : FrmArticulo_) frame->hide();
-  if (auto k = inventory::mostrar(textOf(NoArticulo_))) FrmArticulo_(*k)->show();
-  gui::fitToTable(*this);
-}
 
 // The solution: the records on Picture1, seen through a window that the
 // scroll bar moves them in.
@@ -241,14 +39,9 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr int kTop = 44, kBlock = 130, kRow = 20, kWeekX = 196, kWeekStep = 62;
 constexpr int kFormViewport = 560, kFormMaximum = 10;  // the form as designed, 2 to 4 articles
-const char* const kRowNames[5] = {"NecesidadesBrutas", "RProgramadas", "InventarioDisp",
-                                  "NecesidadesN", "LanzamientoP"};
-const char* const kRowCaptions[5] = {"Necesidades Brutas", "R. Programadas", "Inventario Disp.",
-                                     "Necesidades Netas", "Lanzamiento Pedido"};
-const char* const kCellPrefixes[5] = {"NB", "RP", "ID", "NN", "LP"};
 }  // namespace
 
-MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
+MrpSolution::MrpSolution() : SolutionScreen(mrpForm().solution) {
   // The records are cells of their own; the hidden report box keeps their text.
   Solucion1()->hide();
   Image1_ = new QLabel(this);
@@ -314,16 +107,16 @@ MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
   heads4(TSS_, "TSS", 150, 36);
   for (int k = 0; k < kMrpArticles; ++k) TSS_(k)->setToolTip("Tiempo de Suministro");
   for (int r = 0; r < 5; ++r) {
-    rowLabels_[at(r)].create(Picture1_, kRowNames[r], 0, kMrpArticles - 1,
+    rowLabels_[at(r)].create(Picture1_, kMrpRowNames[r], 0, kMrpArticles - 1,
                              [](QWidget* p) { return caption(p, {}); });
     for (int k = 0; k < kMrpArticles; ++k) {
       QLabel* label = rowLabels_[at(r)](k);
-      label->setText(kRowCaptions[r]);
+      label->setText(kMrpRowCaptions[r]);
       label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
       const int y = kTop + kBlock * k + 22 + kRow * r;
       place(label, 8, y, kWeekX - 12);
       auto& cells = cells_[at(r)][at(k)];
-      cells.create(Picture1_, kCellPrefixes[r] + qs(mrpLetter(k)), 0, kMrpWeeks - 1,
+      cells.create(Picture1_, kMrpCellPrefixes[r] + qs(mrpLetter(k)), 0, kMrpWeeks - 1,
                    [](QWidget* p) { return cell(p, 58); });
       for (int j = 0; j < kMrpWeeks; ++j) place(cells(j), kWeekX + kWeekStep * j, y, kWeekStep - 4);
     }
@@ -399,7 +192,7 @@ MrpRecords MrpSolution::read() const {
 void MrpSolution::formLoad() { SolutionScreen::formActivate(); }
 
 Pages MrpSolution::compute() {
-  const MrpFields f = entry<MrpEntry>().fields();
+  const MrpFields f = entry<gui::DescribedEntry<MrpFields>>().fields();
   const MrpRecords records = solve(f);
   articles_ = records.articles;
   weeks_ = records.weeks;
@@ -442,7 +235,7 @@ void MrpSolution::imprimir() {
 
 void registerMrpScreens() {
   gui::Screens& screens = gui::Screens::instance();
-  screens.add(kEntry, [] { return new MrpEntry(); });
+  screens.add(kEntry, [] { return new gui::DescribedEntry<MrpFields>(mrpForm()); });
   screens.add(kSolution, [] { return new MrpSolution(); });
 }
 

@@ -1,10 +1,8 @@
-// The material requirements screens: GI_MRP, where the product structure,
-// the stock data, the master production schedule and the scheduled receipts
-// are typed, and GI_MRP_Solucion1, which lays out and computes the records
-// once, when it is first loaded.
+// The material requirements screens: GI_MRP drawn from its description, and
+// GI_MRP_Solucion1, which lays out and computes the records once, when it is
+// first loaded, and scrolls them.
 #pragma once
 
-#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,33 +11,9 @@
 
 #include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
-#include "inventory/mrp.h"
+#include "inventory/mrp_form.h"
 
 namespace vorel::inventory {
-
-class MrpEntry : public gui::ModelEntry<MrpFields> {
-  Q_OBJECT
- public:
-  MrpEntry();
-  MrpFields fields() const override;
-  void setFields(const MrpFields& f) override;
-
- protected:
-  void nuevo() override {}  // the picture is there, but does nothing on this screen
-  void nuevo(MrpFields&) override {}
-
- private:
-  void rediseñar();
-  void mostrar();
-
-  QComboBox *NArt_, *NSem_, *NoArticulo_;
-  gui::ControlArray<QLineEdit> Art_, NEle_, NEle1_, ID_, Stock_, Sc_, TS_, TamañoLote_, UniPA_;
-  gui::ControlArray<QComboBox> D_, D1_;
-  gui::ControlArray<QLabel> SemPA_;
-  gui::ControlArray<QFrame> FrmArticulo_;
-  std::array<gui::ControlArray<QLabel>, kMrpArticles> SemRP_;
-  std::array<gui::ControlArray<QLineEdit>, kMrpArticles> Unid_;
-};
 
 class MrpSolution : public gui::SolutionScreen {
   Q_OBJECT

@@ -8,6 +8,7 @@
 #include "frame/arith.h"
 #include "frame/catalogue.h"
 #include "frame/form.h"
+#include "frame/solution_cells.h"
 #include "web/chart_json.h"
 #include "web/json.h"
 
@@ -147,6 +148,9 @@ void write(Json& j, const ui::Description& d) {
   writeList(j, "chrome", d.chrome);
   writeList(j, "commands", d.commands);
   j.field("tablesAcross", d.tablesAcross);
+  j.key("frames").open('{');
+  for (const auto& [group, name] : d.frames) j.field(std::to_string(group), name);
+  j.close('}');
   j.close('}');
 }
 
@@ -284,6 +288,15 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   writeLaidOut(j, "page", pages.page);
   j.field("text", renderText(pages.screen)).field("pageText", renderText(pages.page));
   if (!pages.chart.empty()) j.key("chart").raw(chartJson(pages.chart));
+  // Results shown in cells of the screen's own: {"NBX(0)": {"text": " 0",
+  // "visible": true}, ...}.
+  if (const auto* cells = dynamic_cast<const SolutionCells*>(&solution)) {
+    j.key("cells").open('{');
+    cells->eachCell([&j](const std::string& control, const std::string& text, bool visible) {
+      j.key(control).open('{').field("text", text).field("visible", visible).close('}');
+    });
+    j.close('}');
+  }
   j.key("commands").open('{');
   for (const ui::Description* d : f.solutions()) {
     for (const ui::Command& c : d->commands)
