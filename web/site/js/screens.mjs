@@ -78,12 +78,14 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked }) {
         // A selector that holds its text takes what is typed in it too: a
         // box with its list.
         if (fields[c.name] && 'text' in fields[c.name] && !('index' in fields[c.name])) {
-          return [el('input', {
-            type: 'text', id: id(c.name), name: c.name, className: 'combo', list: id(`${c.name}-lista`),
+          const box = el('input', {
+            type: 'text', id: id(c.name), name: c.name, className: 'combo',
             title: c.toolTip || undefined, autocomplete: 'off', spellcheck: false, hidden: !c.visible, ...at(c),
             style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
             oninput: (e) => typed(c.name, e.target.value),
-          }), el('datalist', { id: id(`${c.name}-lista`) }, c.items.map((item) => el('option', { value: item })))];
+          });
+          box.setAttribute('list', id(`${c.name}-lista`));
+          return [box, el('datalist', { id: id(`${c.name}-lista`) }, c.items.map((item) => el('option', { value: item })))];
         }
         return el('select', {
           id: id(c.name), name: c.name, title: c.toolTip || undefined, hidden: !c.visible, ...at(c),
