@@ -46,12 +46,12 @@ ui::Command command(const char* name, const char* toolTip) {
 // A column of cells of the article table: its head, one cell a row.
 void cellColumn(Form<F>& form, int column, const char* name, const char* head,
                 MrpRow<Cell> F::*member, const char* toolTip = "", const char* headTip = "") {
-  ui::Control h = control(ControlKind::Label, "", head, 1, 0, column, 64);
+  ui::Control h = control(ControlKind::Label, "", head, 1, 0, column, 70);
   h.toolTip = headTip;
   form.entry.controls.push_back(h);
   for (int k = 0; k < kMrpArticles; ++k) {
     const std::string cell = element(name, k);
-    ui::Control c = control(ControlKind::Cell, cell, "", 1, k + 1, column, 64);
+    ui::Control c = control(ControlKind::Cell, cell, "", 1, k + 1, column, 70);
     c.toolTip = toolTip;
     form.entry.controls.push_back(c);
     form.bindings.push_back({cell, [member, k](F& f) { return &(f.*member)[at(k)].text; },
@@ -62,7 +62,7 @@ void cellColumn(Form<F>& form, int column, const char* name, const char* head,
 // A column of dependency selectors, each row with its own list.
 void parentColumn(Form<F>& form, int column, const char* name, MrpRow<MrpDependency> F::*member,
                   std::vector<std::string> (*list)(int)) {
-  form.entry.controls.push_back(control(ControlKind::Label, "", "Dep", 1, 0, column));
+  form.entry.controls.push_back(control(ControlKind::Label, "", "Dep", 1, 0, column, 52));
   for (int k = 0; k < kMrpArticles; ++k) {
     const std::string selector = element(name, k);
     ui::Control c = control(ControlKind::Selector, selector, "", 1, k + 1, column, 52);
