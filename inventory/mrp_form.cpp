@@ -188,8 +188,7 @@ ui::Description solucion() {
   return d;
 }
 
-// The records as the screen loaded them, in their cells: the rows of the
-// articles in use and their weeks show.
+// The records as the screen loaded them, in their cells.
 class RecordsShown : public Solution, public SolutionCells {
  public:
   explicit RecordsShown(std::shared_ptr<const MrpLoadedSolution> loaded)
@@ -197,22 +196,7 @@ class RecordsShown : public Solution, public SolutionCells {
 
   void eachCell(const std::function<void(const std::string&, const std::string&, bool)>& visit)
       const override {
-    const MrpRecords& r = loaded_->records;
-    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int k = 0; k < kMrpArticles; ++k) {
-      const std::size_t c = at(k);
-      const bool shown = k < r.articles;
-      visit(element("ArtS", k), r.ArtS[c], shown);
-      visit(element("Stock", k), r.Stock[c], shown);
-      visit(element("StockSeg", k), r.StockSeg[c], shown);
-      visit(element("TSS", k), r.TSS[c], shown);
-      for (int row = 0; row < 5; ++row) {
-        visit(element(kMrpRowNames[row], k), kMrpRowCaptions[row], shown);
-        for (int j = 0; j < kMrpWeeks; ++j)
-          visit(element(kMrpCellPrefixes[row] + mrpLetter(k), j), (*rows[row])[c][at(j)],
-                shown && j < r.weeks);
-      }
-    }
+    eachRecordCell(loaded_->records, visit);
   }
 
  private:
@@ -233,6 +217,25 @@ Form<F> construir() {
 }
 
 }  // namespace
+
+void eachRecordCell(const MrpRecords& r,
+                    const std::function<void(const std::string&, const std::string&, bool)>& visit) {
+  const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
+  for (int k = 0; k < kMrpArticles; ++k) {
+    const std::size_t c = at(k);
+    const bool shown = k < r.articles;
+    visit(element("ArtS", k), r.ArtS[c], shown);
+    visit(element("Stock", k), r.Stock[c], shown);
+    visit(element("StockSeg", k), r.StockSeg[c], shown);
+    visit(element("TSS", k), r.TSS[c], shown);
+    for (int row = 0; row < 5; ++row) {
+      visit(element(kMrpRowNames[row], k), kMrpRowCaptions[row], shown);
+      for (int j = 0; j < kMrpWeeks; ++j)
+        visit(element(kMrpCellPrefixes[row] + mrpLetter(k), j), (*rows[row])[c][at(j)],
+              shown && j < r.weeks);
+    }
+  }
+}
 
 const Form<F>& mrpForm() {
   static const Form<F> form = construir();

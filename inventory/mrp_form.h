@@ -3,6 +3,9 @@
 // receipts per article; and GI_MRP_Solucion1, the records laid out in cells.
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "frame/form.h"
 #include "inventory/mrp.h"
 
@@ -19,6 +22,13 @@ class MrpLoadedSolution {
 };
 
 const Form<MrpFields>& mrpForm();
+
+// What each control of the records on the solution screen shows: its name,
+// its text and whether it shows (the rows of the articles in use and, in
+// them, the weeks in use).
+void eachRecordCell(const MrpRecords& r,
+                    const std::function<void(const std::string& control,
+                                             const std::string& text, bool visible)>& visit);
 
 // The names of the record rows' labels and cells: "NecesidadesBrutas" and
 // "NB" for the gross requirements, ... "LanzamientoP" and "LP".

@@ -74,58 +74,47 @@ MrpSolution::MrpSolution() : SolutionScreen(mrpForm().solution) {
     run([&] { Picture1_->move(Picture1_->x(), mrpPictureTop(value) / kTwipsPerPixel); });
   });
 
-  auto place = [](QWidget* w, int x, int y, int width, int height = kRow - 1) {
-    w->setGeometry(x, y, width, height);
-  };
-  const std::pair<const char*, const char*> heads[5] = {{"Articulo", "Artículo"},
-                                                        {"Inventario", "Stock"},
-                                                        {"SS", "S.S."},
-                                                        {"Tiempo", "T.S."},
-                                                        {"Label1", "Semanas"}};
-  const int headX[5] = {4, 60, 110, 150, kWeekX};
-  for (int h = 0; h < 5; ++h) {
-    auto* label = caption(Picture1_, heads[h].second, heads[h].first);
-    place(label, headX[h], 2, h == 4 ? kWeekStep * kMrpWeeks : h == 0 ? 52 : h == 1 ? 46 : 36);
-    heads_ << label;
-  }
-  heads_[3]->setToolTip("Tiempo de Suministro");
-  Semana_.create(Picture1_, "Semana", 0, kMrpWeeks - 1, [](QWidget* p) { return caption(p, {}); });
-  for (int j = 0; j < kMrpWeeks; ++j) {
-    Semana_(j)->setText(QString::number(j + 1));
-    place(Semana_(j), kWeekX + kWeekStep * j, 22, kWeekStep - 4);
-  }
-  auto heads4 = [&](gui::ControlArray<QLineEdit>& a, const char* name, int x, int width) {
-    a.create(Picture1_, name, 0, kMrpArticles - 1, [](QWidget* p) { return cell(p, 40); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      a(k)->setReadOnly(true);
-      place(a(k), x, kTop + kBlock * k, width);
+  // The heads, the weeks and the records as the description names them, each
+  // at the place on Picture1 that its row and column stand for: the four head
+  // columns, then a column a week; the heads' two rows, then six rows an
+  // article (its head cells and its five rows).
+  constexpr int kHeadX[4] = {4, 60, 110, 150};
+  for (const ui::Control& c : mrpForm().solution.controls) {
+    if (c.group != 1) continue;
+    const int x = c.column < 4 ? kHeadX[c.column] : kWeekX + kWeekStep * (c.column - 4);
+    const int k = (c.row - 2) / 6, line = (c.row - 2) % 6;
+    const int y = c.row < 2 ? 2 + 20 * c.row
+                  : line == 0 ? kTop + kBlock * k
+                              : kTop + kBlock * k + 22 + kRow * (line - 1);
+    QWidget* w = nullptr;
+    int width = c.width > 0 ? c.width : kWeekStep - 4;
+    if (c.kind == ui::ControlKind::Cell) {
+      QLineEdit* box = cell(Picture1_, width);
+      box->setReadOnly(c.column < 4);  // an article's head cells
+      w = box;
+    } else {
+      QLabel* label = caption(Picture1_, qs(c.text));
+      if (c.row == 0) heads_ << label;
+      if (c.row == 1) weekHeads_ << label;
+      if (c.columnSpan > 1) width = c.row == 0 ? kWeekStep * kMrpWeeks : kWeekX - 12;
+      if (c.row >= 2) {  // a row's label, from its left
+        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        w = label;
+        w->setGeometry(8, y, width, kRow - 1);
+        w->setObjectName(qs(c.name));
+        continue;
+      }
+      w = label;
     }
-  };
-  heads4(ArtS_, "ArtS", 4, 52);
-  heads4(Stock_, "Stock", 60, 46);
-  heads4(StockSeg_, "StockSeg", 110, 36);
-  heads4(TSS_, "TSS", 150, 36);
-  for (int k = 0; k < kMrpArticles; ++k) TSS_(k)->setToolTip("Tiempo de Suministro");
-  for (int r = 0; r < 5; ++r) {
-    rowLabels_[at(r)].create(Picture1_, kMrpRowNames[r], 0, kMrpArticles - 1,
-                             [](QWidget* p) { return caption(p, {}); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      QLabel* label = rowLabels_[at(r)](k);
-      label->setText(kMrpRowCaptions[r]);
-      label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-      const int y = kTop + kBlock * k + 22 + kRow * r;
-      place(label, 8, y, kWeekX - 12);
-      auto& cells = cells_[at(r)][at(k)];
-      cells.create(Picture1_, kMrpCellPrefixes[r] + qs(mrpLetter(k)), 0, kMrpWeeks - 1,
-                   [](QWidget* p) { return cell(p, 58); });
-      for (int j = 0; j < kMrpWeeks; ++j) place(cells(j), kWeekX + kWeekStep * j, y, kWeekStep - 4);
-    }
+    w->setObjectName(qs(c.name));
+    w->setToolTip(qs(c.toolTip));
+    w->setGeometry(x, y, width, kRow - 1);
   }
   for (int b = 4; b <= 10; ++b) {
     auto* line = new QFrame(Picture1_);
     line->setObjectName(QStringLiteral("Image%1").arg(b));
     line->setStyleSheet("background: #4A5568;");
-    place(line, 4, kTop + kBlock * b - 6, kWeekX + kWeekStep * kMrpWeeks - 8, 2);
+    line->setGeometry(4, kTop + kBlock * b - 6, kWeekX + kWeekStep * kMrpWeeks - 8, 2);
     images_[at(b - 4)] = line;
   }
 }
@@ -146,61 +135,25 @@ void MrpSolution::layOut(const MrpFields& f) {
                             : scroll.visible ? kFormViewport
                                              : std::min(kFormViewport, extent));
   for (int b = 4; b <= 10; ++b) images_[at(b - 4)]->setVisible(b <= articles_);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const bool row = k < articles_;
-    for (auto* head : {ArtS_(k), Stock_(k), StockSeg_(k), TSS_(k)}) head->setVisible(row);
-    for (int r = 0; r < 5; ++r) {
-      rowLabels_[at(r)](k)->setVisible(row);
-      for (int j = 0; j < kMrpWeeks; ++j) cells_[at(r)][at(k)](j)->setVisible(row && j < weeks_);
-    }
-  }
   gui::fitToTable(*this);
-}
-
-void MrpSolution::write(const MrpRecords& r) {
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t c = at(k);
-    ArtS_(k)->setText(qs(r.ArtS[c]));
-    Stock_(k)->setText(qs(r.Stock[c]));
-    StockSeg_(k)->setText(qs(r.StockSeg[c]));
-    TSS_(k)->setText(qs(r.TSS[c]));
-    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row)
-      for (int j = 0; j < kMrpWeeks; ++j)
-        cells_[at(row)][c](j)->setText(qs((*rows[row])[c][at(j)]));
-  }
-}
-
-MrpRecords MrpSolution::read() const {
-  MrpRecords r;
-  r.articles = articles_;
-  r.weeks = weeks_;
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t c = at(k);
-    r.ArtS[c] = ArtS_(k)->text().toStdString();
-    r.Stock[c] = Stock_(k)->text().toStdString();
-    r.StockSeg[c] = StockSeg_(k)->text().toStdString();
-    r.TSS[c] = TSS_(k)->text().toStdString();
-    MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row)
-      for (int j = 0; j < kMrpWeeks; ++j)
-        (*rows[row])[c][at(j)] = cells_[at(row)][c](j)->text().toStdString();
-  }
-  return r;
 }
 
 void MrpSolution::formLoad() { SolutionScreen::formActivate(); }
 
 Pages MrpSolution::compute() {
   const MrpFields f = entry<gui::DescribedEntry<MrpFields>>().fields();
-  const MrpRecords records = solve(f);
-  articles_ = records.articles;
-  weeks_ = records.weeks;
-  write(records);
+  const MrpLoadedSolution loaded(f);
+  articles_ = loaded.records.articles;
+  weeks_ = loaded.records.weeks;
+  eachRecordCell(loaded.records, [this](const std::string& name, const std::string& text,
+                                        bool visible) {
+    QWidget* w = Picture1_->findChild<QWidget*>(qs(name));
+    if (auto* box = qobject_cast<QLineEdit*>(w)) box->setText(qs(text));
+    if (auto* label = qobject_cast<QLabel*>(w)) label->setText(qs(text));
+    if (w) w->setVisible(visible);
+  });
   layOut(f);
-  // What the screen shows is what its cells hold.
-  const MrpRecords shown = read();
-  return {report(f, shown), printout(f, shown)};
+  return loaded.pages;
 }
 
 void MrpSolution::imprimir() {
@@ -218,8 +171,8 @@ void MrpSolution::imprimir() {
   for (QWidget* w : hidden)
     if (w) w->hide();
   for (QLabel* head : heads_) gui::paintColumnHead(head, QColor(0xE0, 0xE0, 0xE0));
-  for (int j = 0; j < std::min(weeks_, kMrpWeeks); ++j)
-    gui::paintColumnHead(Semana_(j), QColor(0xE0, 0xE0, 0xE0));
+  for (int j = 0; j < std::min(weeks_, static_cast<int>(weekHeads_.size())); ++j)
+    gui::paintColumnHead(weekHeads_[j], QColor(0xE0, 0xE0, 0xE0));
   // The form, as tall as 15500 twips, goes on the paper as it stands.
   const int height = 15500 / kTwipsPerPixel;
   viewport_->setFixedHeight(std::max(height - 120, 0));

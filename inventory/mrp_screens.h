@@ -9,7 +9,6 @@
 #include <QScrollBar>
 #include <array>
 
-#include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
 #include "inventory/mrp_form.h"
 
@@ -31,20 +30,14 @@ class MrpSolution : public gui::SolutionScreen {
 
  private:
   void layOut(const MrpFields& f);
-  void write(const MrpRecords& r);
-  MrpRecords read() const;
 
   QWidget* viewport_;
   QWidget* Picture1_;
   QScrollBar* VScroll1_;
   QLabel* Image1_;
   std::array<QFrame*, 7> images_{};  // Image4..Image10
-  gui::ControlArray<QLineEdit> ArtS_, Stock_, StockSeg_, TSS_;
-  gui::ControlArray<QLabel> Semana_;
-  std::array<gui::ControlArray<QLabel>, 5> rowLabels_;  // NecesidadesBrutas..LanzamientoP
-  // NB, RP, ID, NN, LP of each article: cells_[row][article](week)
-  std::array<std::array<gui::ControlArray<QLineEdit>, kMrpArticles>, 5> cells_;
-  QList<QLabel*> heads_;  // Articulo, Inventario, SS, Tiempo, Label1
+  QList<QLabel*> heads_;             // Articulo, Inventario, SS, Tiempo, Label1
+  QList<QLabel*> weekHeads_;         // Semana(0)..Semana(9)
   int articles_ = 0, weeks_ = 0;
 };
 

@@ -198,13 +198,18 @@ function solutionCells(controls) {
   }
   const place = (c) => `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}${
     c.columnSpan > 1 ? ` / span ${c.columnSpan}` : ''}`;
+  // A cell is read by the label of its row and the lowest head over its column.
+  const labelAt = (row, column) => controls.find((o) => o.kind === 'label' && o.row === row
+    && column >= o.column && column < o.column + o.columnSpan);
+  const read = (c) => [labelAt(c.row, 0), labelAt(1, c.column) ?? labelAt(0, c.column)]
+    .filter(Boolean).map((o) => o.text).join(', ') || c.name;
   return el('div', {
     className: 'tabla celdas', role: 'group',
     style: `grid-template-columns: ${[...widths].map((w) => (w ? `${w}px` : 'max-content')).join(' ')}`,
   }, controls.map((c) => (c.kind === 'cell'
     ? el('input', {
       type: 'text', name: c.name, className: 'cell', readOnly: true, title: c.toolTip || undefined,
-      'aria-label': c.name, style: place(c), hidden: true,
+      'aria-label': read(c), style: place(c), hidden: true,
     })
     : el('span', {
       className: c.row <= 1 ? 'cabecera' : 'rotulo', name: c.name || undefined, textContent: c.text,
