@@ -73,8 +73,9 @@ void parentColumn(Form<F>& form, int column, const char* name, MrpRow<MrpDepende
   }
 }
 
-// A row of weeks: its caption, then a label "1".."10" a week over the
-// units' cells. `weeks` and `units` are the member and its array name.
+// A row of weeks and a row of units under it, each with its caption: a
+// label "1".."10" a week (the array `weekNames`, its visibility reached by
+// `week`) over a cell a week (the array `unitNames`, reached by `units`).
 void weekRows(Form<F>& form, int group, const std::string& weekCaption,
               const std::string& weekNames, std::function<bool*(F&, int)> week,
               const std::string& unitsCaption, const std::string& unitNames,
