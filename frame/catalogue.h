@@ -38,8 +38,8 @@ struct CatalogueEntry {
   // and the others a file run can ask for.
   std::string solutionHelp;
   std::vector<CatalogueView> views;
-  // A fresh live form of its entry screen where its screens are described as
-  // data (frame/form.h); empty where they are not yet.
+  // A fresh live form of its entry screen, its screens described as data
+  // (frame/form.h).
   std::function<std::unique_ptr<EntryForm>()> form;
   std::string helpPage() const { return nav::helpPage(screen); }
 };
@@ -74,7 +74,7 @@ CatalogueEntry catalogued(std::string id, const Form<Fields>& form, std::string 
 // Every model, in the order of app/models.def.
 const std::vector<CatalogueEntry>& catalogue();
 const CatalogueEntry* findModel(const std::string& idOrScreen);
-// A fresh live form of an entry screen, or null where it is not described.
+// A fresh live form of an entry screen, or null where no model has it.
 std::unique_ptr<EntryForm> newEntryForm(const std::string& screen);
 
 }  // namespace vorel

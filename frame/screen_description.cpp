@@ -157,7 +157,7 @@ Description startScreen() {
   return d;
 }
 
-Description menu(const nav::MenuInfo& m, bool (*available)(std::string_view screen)) {
+Description menu(const nav::MenuInfo& m) {
   Description d;
   d.name = m.name;
   const bool mainMenu = m.name == "APrincipal";
@@ -176,10 +176,6 @@ Description menu(const nav::MenuInfo& m, bool (*available)(std::string_view scre
     c.caption = choice.label;
     c.target = choice.target;
     c.hides = choice.hides;
-    if (!choice.target.empty() && !nav::findMenu(choice.target) && !available(choice.target)) {
-      c.enabled = false;
-      c.toolTip = kNotYet;
-    }
     d.commands.push_back(std::move(c));
   }
   return d;

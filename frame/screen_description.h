@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "frame/navigation.h"
@@ -104,6 +105,9 @@ struct Description {
   std::string activate;
   // An entry screen: the control nuevo leaves the focus in, if any.
   std::string nuevoFocus;
+  // Tables shown or hidden as a whole, as a frame is: a group and the name
+  // its visibility is bound by. Another table shows where a control of it does.
+  std::vector<std::pair<int, std::string>> frames;
 };
 
 // A control of `kind` at its place on a grid of the screen (see Control).
@@ -123,7 +127,6 @@ Command browseCommand(std::string name, std::string picture, std::string toolTip
 // The texts of the frame that every screen shares.
 inline constexpr char kTituloCaption[] = "TÍTULO DEL PROBLEMA";
 inline constexpr char kTituloToolTip[] = "Título del Problema";
-inline constexpr char kNotYet[] = "Disponible próximamente";
 inline constexpr char kErrorTitle[] = "Error";  // every check's message box
 inline constexpr char kRuntimeErrorTitle[] = "Vorel";
 inline constexpr char kHelpTitle[] = "Ayuda de Vorel";  // the help window
@@ -137,10 +140,9 @@ std::vector<Command> entryCommands();
 // Imprimir of a solution screen.
 Command imprimir();
 
-// The start screen, the main menu and the section menus. `available` tells
-// whether a model's entry screen can be shown yet (its choice is greyed if not).
+// The start screen, the main menu and the section menus.
 Description startScreen();
-Description menu(const nav::MenuInfo& menu, bool (*available)(std::string_view screen));
+Description menu(const nav::MenuInfo& menu);
 
 // An entry screen of text fields: the title row, then one labelled box per
 // field, in order. `fields` are {control, label} pairs.

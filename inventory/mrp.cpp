@@ -4,6 +4,7 @@
 
 #include "frame/arith.h"
 #include "frame/catalogue.h"
+#include "inventory/mrp_form.h"
 
 namespace vorel::inventory {
 
@@ -61,6 +62,7 @@ std::vector<std::string> mrpArticleChoices() {
 MrpFields::MrpFields() {
   for (int k = 0; k < kMrpArticles; ++k) Art[at(k)].text = mrpLetter(k);
   D[0].listIndex = D1[0].listIndex = 0;
+  FrmArticulo[0] = true;
   NEle[0].text = NEle1[0].text = "1";
   for (int k = 0; k < 2; ++k) {
     for (MrpRow<Cell>* column : {&Art, &NEle, &NEle1, &ID, &Stock, &Sc, &TS, &TamañoLote, &UniPA})
@@ -106,6 +108,12 @@ std::optional<int> mostrar(const std::string& NoArticulo) {
   const int k = indexOf(mrpArticleChoices(), NoArticulo);
   if (k < 0) return std::nullopt;
   return k;
+}
+
+Messages mostrar(MrpFields& f) {
+  f.FrmArticulo.fill(false);
+  if (auto k = mostrar(f.NoArticulo)) f.FrmArticulo[at(*k)] = true;
+  return {};
 }
 
 Messages check(const MrpFields& f) {
@@ -467,7 +475,7 @@ void exchange(ProblemFile& file, MrpFields& f) {
 }
 
 CatalogueEntry catalogueMrp() {
-  return catalogued<MrpFields>("mrp", "GI_MRP", "", exchange, check, solveAndReport);
+  return catalogued("mrp", mrpForm());
 }
 
 }  // namespace vorel::inventory

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,6 +42,8 @@ struct MrpDependency {
 std::vector<std::string> mrpParentList(int row);
 std::vector<std::string> mrpSecondParentList(int row);
 
+class MrpLoadedSolution;  // see inventory/mrp_form.h
+
 // The entry screen GI_MRP (Form_Load: two articles, two weeks).
 struct MrpFields {
   MrpFields();
@@ -53,6 +56,12 @@ struct MrpFields {
   MrpRow<bool> SemPA{};   // the week labels of the schedule
   MrpGrid<bool> SemRP{};  // SemRPX(j).. SemRPI(j): the week labels of the receipts
   MrpGrid<Cell> Unid;     // UnidX(j).. UnidI(j): the scheduled receipts
+  // FrmArticulo(x): the frame of receipts on view (X's at first), kept by
+  // no file.
+  MrpRow<bool> FrmArticulo{};
+  // The solution screen as it was loaded: it loads once per run and computes
+  // then, so every later Resolver shows it again, whatever was retyped.
+  std::shared_ptr<const MrpLoadedSolution> solutionLoaded;
 
   // The texts the dependency selectors of a row show (empty when none chosen).
   std::string parent1(int row) const;
@@ -75,6 +84,8 @@ inline constexpr const char* kMrpIntro =
 Messages rediseñar(MrpFields& f);
 // Mostrar: the receipt frame of the article chosen (0..9), or none.
 std::optional<int> mostrar(const std::string& NoArticulo);
+// Mostrar on the fields: every frame hidden, then the chosen one shown.
+Messages mostrar(MrpFields& f);
 // Resolver: the one message of the first failed check, in the screen's order;
 // an empty dependency cell, or a numeric one, is a type mismatch (error 13).
 Messages check(const MrpFields& f);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "frame/gui/described_screens.h"
 #include "frame/gui/printing.h"
 #include "frame/gui/table_screen.h"
 
@@ -16,24 +17,6 @@ const std::string kSolution = "GI_MRP_Solucion1";
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 std::size_t at(int k) { return static_cast<std::size_t>(k); }
-
-QStringList items(const std::vector<std::string>& list) {
-  QStringList out;
-  for (const std::string& s : list) out << qs(s);
-  return out;
-}
-
-// A selector whose text can also be typed, as the counts and the article are.
-QComboBox* typedSelector(QWidget* parent, const QString& name, const std::vector<std::string>& list,
-                         const QString& toolTip = {}) {
-  auto* combo = gui::newSelector(parent, items(list));
-  combo->setObjectName(name);
-  combo->setEditable(true);
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  combo->setToolTip(toolTip);
-  combo->setFixedWidth(list.size() > 9 ? 110 : 64);
-  return combo;
-}
 
 QLabel* caption(QWidget* parent, const QString& text, const QString& name = {}) {
   auto* label = gui::newHeading(parent);
@@ -48,192 +31,7 @@ QLineEdit* cell(QWidget* parent, int width) {
   return box;
 }
 
-// The text of a selector, and its text set as the screen sets it.
-std::string textOf(const QComboBox* c) { return c->currentText().toStdString(); }
-void setText(QComboBox* c, const std::string& text) {
-  const int k = c->findText(qs(text), Qt::MatchExactly);
-  c->setCurrentIndex(k);
-  c->setEditText(qs(text));
-}
-
 }  // namespace
-
-MrpEntry::MrpEntry()
-    : ModelEntry(kEntry, "Inventarios con demanda dependiente: MRP", kMrpIntro, "Titulo1",
-                 "Problema1") {
-  NArt_ = typedSelector(this, "NArt", mrpArticleCounts());
-  NSem_ = typedSelector(this, "NSem", mrpWeekCounts(), "Duración en Años");
-  auto* redesign = gui::redesignButton(
-      *this, [this] { rediseñar(); }, "Rediseñar", "Rediseñar");
-  redesign->setToolTip("Ajusta la tabla al número de años deseados");
-  fieldGrid()->addWidget(caption(this, "Número de Artículos"), 0, 0);
-  fieldGrid()->addWidget(NArt_, 0, 1);
-  fieldGrid()->addWidget(caption(this, "Número de Semanas"), 0, 2);
-  fieldGrid()->addWidget(NSem_, 0, 3);
-  fieldGrid()->addWidget(redesign, 0, 4);
-  fieldGrid()->setColumnStretch(5, 1);
-
-  // The articles, one row each.
-  auto* table = gui::tableFrame(*this);
-  QGridLayout* grid = gui::tableGrid(table);
-  const char* heads[] = {"Artículo",   "Dep",  "Nº E", "Dep",  "Nº E",
-                         "Inventario", "S.S.", "S.C.", "T.S.", "Tamaño"};
-  for (int c = 0; c < 10; ++c) {
-    auto* head = gui::newColumnHead(table);
-    head->setText(heads[c]);
-    if (c == 8) head->setToolTip("Tiempo de Suministro");
-    grid->addWidget(head, 0, c);
-  }
-  auto texts = [&](gui::ControlArray<QLineEdit>& a, const char* name, int column) {
-    a.create(table, name, 0, kMrpArticles - 1, [](QWidget* p) { return cell(p, 64); });
-    for (int k = 0; k < kMrpArticles; ++k) grid->addWidget(a(k), k + 1, column);
-  };
-  auto parents = [&](gui::ControlArray<QComboBox>& a, const char* name, int column, bool second) {
-    a.create(table, name, 0, kMrpArticles - 1, [](QWidget* p) { return gui::newSelector(p, {}); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      a(k)->addItems(items(second ? mrpSecondParentList(k) : mrpParentList(k)));
-      a(k)->setFixedWidth(52);
-      grid->addWidget(a(k), k + 1, column);
-    }
-  };
-  texts(Art_, "Art", 0);
-  parents(D_, "D", 1, false);
-  texts(NEle_, "NEle", 2);
-  parents(D1_, "D1", 3, true);
-  texts(NEle1_, "NEle1", 4);
-  texts(ID_, "ID", 5);
-  texts(Stock_, "Stock", 6);
-  texts(Sc_, "Sc", 7);
-  texts(TS_, "TS", 8);
-  texts(TamañoLote_, "TamañoLote", 9);
-  for (int k = 0; k < kMrpArticles; ++k)
-    TamañoLote_(k)->setToolTip("Tamaño del lote, introduzca L si es lote a lote");
-  grid->setColumnStretch(10, 1);
-  gui::placeTable(body(), fieldGrid(), table);
-
-  // The master production schedule of X.
-  auto* plan = gui::tableFrame(*this);
-  QGridLayout* planGrid = gui::tableGrid(plan);
-  planGrid->addWidget(caption(plan, "Plan Maestro de Producción"), 0, 0, 1, 11, Qt::AlignLeft);
-  planGrid->addWidget(caption(plan, "Semana"), 1, 0);
-  planGrid->addWidget(caption(plan, "Unidades"), 2, 0);
-  SemPA_.create(plan, "SemPA", 0, kMrpWeeks - 1, [](QWidget* p) { return caption(p, {}); });
-  UniPA_.create(plan, "UniPA", 0, kMrpWeeks - 1, [](QWidget* p) { return cell(p, 58); });
-  for (int j = 0; j < kMrpWeeks; ++j) {
-    SemPA_(j)->setText(QString::number(j + 1));
-    UniPA_(j)->setToolTip("Unidades del Plan Maestro de Producción");
-    planGrid->addWidget(SemPA_(j), 1, j + 1);
-    planGrid->addWidget(UniPA_(j), 2, j + 1);
-  }
-  planGrid->setColumnStretch(11, 1);
-  body()->insertWidget(body()->indexOf(table) + 1, plan);
-
-  // The scheduled receipts, one frame per article, one shown at a time.
-  auto* receipts = gui::tableFrame(*this);
-  QGridLayout* receiptGrid = gui::tableGrid(receipts);
-  receiptGrid->addWidget(caption(receipts, "Recepciones Programadas"), 0, 0, Qt::AlignLeft);
-  NoArticulo_ = typedSelector(receipts, "NoArticulo", mrpArticleChoices());
-  NoArticulo_->setCurrentIndex(-1);
-  receiptGrid->addWidget(NoArticulo_, 0, 1, Qt::AlignLeft);
-  auto* show = gui::redesignButton(
-      *this, [this] { mostrar(); }, "Mostrar", "Mostrar");
-  receiptGrid->addWidget(show, 0, 2, Qt::AlignLeft);
-  receiptGrid->setColumnStretch(3, 1);
-  FrmArticulo_.create(receipts, "FrmArticulo", 0, kMrpArticles - 1,
-                      [](QWidget* p) { return new QFrame(p); });
-  for (int x = 0; x < kMrpArticles; ++x) {
-    QFrame* frame = FrmArticulo_(x);
-    auto* g = new QGridLayout(frame);
-    g->setContentsMargins(0, 4, 0, 0);
-    const QString letter = qs(mrpLetter(x));
-    g->addWidget(caption(frame, "Semana " + letter), 0, 0);
-    g->addWidget(caption(frame, "Unidades " + letter), 1, 0);
-    SemRP_[at(x)].create(frame, "SemRP" + letter, 0, kMrpWeeks - 1,
-                         [](QWidget* p) { return caption(p, {}); });
-    Unid_[at(x)].create(frame, "Unid" + letter, 0, kMrpWeeks - 1,
-                        [](QWidget* p) { return cell(p, 58); });
-    for (int j = 0; j < kMrpWeeks; ++j) {
-      SemRP_[at(x)](j)->setText(QString::number(j + 1));
-      g->addWidget(SemRP_[at(x)](j), 0, j + 1);
-      g->addWidget(Unid_[at(x)](j), 1, j + 1);
-    }
-    g->setColumnStretch(kMrpWeeks + 1, 1);
-    receiptGrid->addWidget(frame, 1, 0, 1, 4);
-    frame->setVisible(x == 0);
-  }
-  body()->insertWidget(body()->indexOf(plan) + 1, receipts);
-
-  setFields(MrpFields{});
-}
-
-MrpFields MrpEntry::fields() const {
-  MrpFields f;
-  f.Titulo1 = titleField()->text().toStdString();
-  f.NArt = textOf(NArt_);
-  f.NSem = textOf(NSem_);
-  f.NoArticulo = textOf(NoArticulo_);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t r = at(k);
-    f.Art[r] = gui::readCell(Art_(k));
-    f.NEle[r] = gui::readCell(NEle_(k));
-    f.NEle1[r] = gui::readCell(NEle1_(k));
-    f.ID[r] = gui::readCell(ID_(k));
-    f.Stock[r] = gui::readCell(Stock_(k));
-    f.Sc[r] = gui::readCell(Sc_(k));
-    f.TS[r] = gui::readCell(TS_(k));
-    f.TamañoLote[r] = gui::readCell(TamañoLote_(k));
-    f.UniPA[r] = gui::readCell(UniPA_(k));
-    f.D[r] = {D_(k)->currentIndex(), !D_(k)->isHidden()};
-    f.D1[r] = {D1_(k)->currentIndex(), !D1_(k)->isHidden()};
-    f.SemPA[r] = !SemPA_(k)->isHidden();
-    for (int x = 0; x < kMrpArticles; ++x) {
-      f.SemRP[at(x)][r] = !SemRP_[at(x)](k)->isHidden();
-      f.Unid[at(x)][r] = gui::readCell(Unid_[at(x)](k));
-    }
-  }
-  return f;
-}
-
-void MrpEntry::setFields(const MrpFields& f) {
-  titleField()->setText(qs(f.Titulo1));
-  setText(NArt_, f.NArt);
-  setText(NSem_, f.NSem);
-  setText(NoArticulo_, f.NoArticulo);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t r = at(k);
-    gui::writeCell(Art_(k), f.Art[r]);
-    gui::writeCell(NEle_(k), f.NEle[r]);
-    gui::writeCell(NEle1_(k), f.NEle1[r]);
-    gui::writeCell(ID_(k), f.ID[r]);
-    gui::writeCell(Stock_(k), f.Stock[r]);
-    gui::writeCell(Sc_(k), f.Sc[r]);
-    gui::writeCell(TS_(k), f.TS[r]);
-    gui::writeCell(TamañoLote_(k), f.TamañoLote[r]);
-    gui::writeCell(UniPA_(k), f.UniPA[r]);
-    D_(k)->setCurrentIndex(f.D[r].listIndex);
-    D_(k)->setVisible(f.D[r].visible);
-    D1_(k)->setCurrentIndex(f.D1[r].listIndex);
-    D1_(k)->setVisible(f.D1[r].visible);
-    SemPA_(k)->setVisible(f.SemPA[r]);
-    for (int x = 0; x < kMrpArticles; ++x) {
-      SemRP_[at(x)](k)->setVisible(f.SemRP[at(x)][r]);
-      gui::writeCell(Unid_[at(x)](k), f.Unid[at(x)][r]);
-    }
-  }
-  gui::fitToTable(*this);
-}
-
-void MrpEntry::rediseñar() {
-  // The first cell takes the focus only where a table is shown.
-  if (edit([](MrpFields& f) { return inventory::rediseñar(f); }) && !Art_(0)->isHidden())
-    Art_(0)->setFocus();
-}
-
-void MrpEntry::mostrar() {
-  for (QFrame* frame : FrmArticulo_) frame->hide();
-  if (auto k = inventory::mostrar(textOf(NoArticulo_))) FrmArticulo_(*k)->show();
-  gui::fitToTable(*this);
-}
 
 // The solution: the records on Picture1, seen through a window that the
 // scroll bar moves them in.
@@ -241,14 +39,9 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr int kTop = 44, kBlock = 130, kRow = 20, kWeekX = 196, kWeekStep = 62;
 constexpr int kFormViewport = 560, kFormMaximum = 10;  // the form as designed, 2 to 4 articles
-const char* const kRowNames[5] = {"NecesidadesBrutas", "RProgramadas", "InventarioDisp",
-                                  "NecesidadesN", "LanzamientoP"};
-const char* const kRowCaptions[5] = {"Necesidades Brutas", "R. Programadas", "Inventario Disp.",
-                                     "Necesidades Netas", "Lanzamiento Pedido"};
-const char* const kCellPrefixes[5] = {"NB", "RP", "ID", "NN", "LP"};
 }  // namespace
 
-MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
+MrpSolution::MrpSolution() : SolutionScreen(mrpForm().solution) {
   // The records are cells of their own; the hidden report box keeps their text.
   Solucion1()->hide();
   Image1_ = new QLabel(this);
@@ -281,58 +74,47 @@ MrpSolution::MrpSolution() : SolutionScreen(kSolution, "MRP", 10, 1) {
     run([&] { Picture1_->move(Picture1_->x(), mrpPictureTop(value) / kTwipsPerPixel); });
   });
 
-  auto place = [](QWidget* w, int x, int y, int width, int height = kRow - 1) {
-    w->setGeometry(x, y, width, height);
-  };
-  const std::pair<const char*, const char*> heads[5] = {{"Articulo", "Artículo"},
-                                                        {"Inventario", "Stock"},
-                                                        {"SS", "S.S."},
-                                                        {"Tiempo", "T.S."},
-                                                        {"Label1", "Semanas"}};
-  const int headX[5] = {4, 60, 110, 150, kWeekX};
-  for (int h = 0; h < 5; ++h) {
-    auto* label = caption(Picture1_, heads[h].second, heads[h].first);
-    place(label, headX[h], 2, h == 4 ? kWeekStep * kMrpWeeks : h == 0 ? 52 : h == 1 ? 46 : 36);
-    heads_ << label;
-  }
-  heads_[3]->setToolTip("Tiempo de Suministro");
-  Semana_.create(Picture1_, "Semana", 0, kMrpWeeks - 1, [](QWidget* p) { return caption(p, {}); });
-  for (int j = 0; j < kMrpWeeks; ++j) {
-    Semana_(j)->setText(QString::number(j + 1));
-    place(Semana_(j), kWeekX + kWeekStep * j, 22, kWeekStep - 4);
-  }
-  auto heads4 = [&](gui::ControlArray<QLineEdit>& a, const char* name, int x, int width) {
-    a.create(Picture1_, name, 0, kMrpArticles - 1, [](QWidget* p) { return cell(p, 40); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      a(k)->setReadOnly(true);
-      place(a(k), x, kTop + kBlock * k, width);
+  // The heads, the weeks and the records as the description names them, each
+  // at the place on Picture1 that its row and column stand for: the four head
+  // columns, then a column a week; the heads' two rows, then six rows an
+  // article (its head cells and its five rows).
+  constexpr int kHeadX[4] = {4, 60, 110, 150};
+  for (const ui::Control& c : mrpForm().solution.controls) {
+    if (c.group != 1) continue;
+    const int x = c.column < 4 ? kHeadX[c.column] : kWeekX + kWeekStep * (c.column - 4);
+    const int k = (c.row - 2) / 6, line = (c.row - 2) % 6;
+    const int y = c.row < 2 ? 2 + 20 * c.row
+                  : line == 0 ? kTop + kBlock * k
+                              : kTop + kBlock * k + 22 + kRow * (line - 1);
+    QWidget* w = nullptr;
+    int width = c.width > 0 ? c.width : kWeekStep - 4;
+    if (c.kind == ui::ControlKind::Cell) {
+      QLineEdit* box = cell(Picture1_, width);
+      box->setReadOnly(c.column < 4);  // an article's head cells
+      w = box;
+    } else {
+      QLabel* label = caption(Picture1_, qs(c.text));
+      if (c.row == 0) heads_ << label;
+      if (c.row == 1) weekHeads_ << label;
+      if (c.columnSpan > 1) width = c.row == 0 ? kWeekStep * kMrpWeeks : kWeekX - 12;
+      if (c.row >= 2) {  // a row's label, from its left
+        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        w = label;
+        w->setGeometry(8, y, width, kRow - 1);
+        w->setObjectName(qs(c.name));
+        continue;
+      }
+      w = label;
     }
-  };
-  heads4(ArtS_, "ArtS", 4, 52);
-  heads4(Stock_, "Stock", 60, 46);
-  heads4(StockSeg_, "StockSeg", 110, 36);
-  heads4(TSS_, "TSS", 150, 36);
-  for (int k = 0; k < kMrpArticles; ++k) TSS_(k)->setToolTip("Tiempo de Suministro");
-  for (int r = 0; r < 5; ++r) {
-    rowLabels_[at(r)].create(Picture1_, kRowNames[r], 0, kMrpArticles - 1,
-                             [](QWidget* p) { return caption(p, {}); });
-    for (int k = 0; k < kMrpArticles; ++k) {
-      QLabel* label = rowLabels_[at(r)](k);
-      label->setText(kRowCaptions[r]);
-      label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-      const int y = kTop + kBlock * k + 22 + kRow * r;
-      place(label, 8, y, kWeekX - 12);
-      auto& cells = cells_[at(r)][at(k)];
-      cells.create(Picture1_, kCellPrefixes[r] + qs(mrpLetter(k)), 0, kMrpWeeks - 1,
-                   [](QWidget* p) { return cell(p, 58); });
-      for (int j = 0; j < kMrpWeeks; ++j) place(cells(j), kWeekX + kWeekStep * j, y, kWeekStep - 4);
-    }
+    w->setObjectName(qs(c.name));
+    w->setToolTip(qs(c.toolTip));
+    w->setGeometry(x, y, width, kRow - 1);
   }
   for (int b = 4; b <= 10; ++b) {
     auto* line = new QFrame(Picture1_);
     line->setObjectName(QStringLiteral("Image%1").arg(b));
     line->setStyleSheet("background: #4A5568;");
-    place(line, 4, kTop + kBlock * b - 6, kWeekX + kWeekStep * kMrpWeeks - 8, 2);
+    line->setGeometry(4, kTop + kBlock * b - 6, kWeekX + kWeekStep * kMrpWeeks - 8, 2);
     images_[at(b - 4)] = line;
   }
 }
@@ -353,61 +135,25 @@ void MrpSolution::layOut(const MrpFields& f) {
                             : scroll.visible ? kFormViewport
                                              : std::min(kFormViewport, extent));
   for (int b = 4; b <= 10; ++b) images_[at(b - 4)]->setVisible(b <= articles_);
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const bool row = k < articles_;
-    for (auto* head : {ArtS_(k), Stock_(k), StockSeg_(k), TSS_(k)}) head->setVisible(row);
-    for (int r = 0; r < 5; ++r) {
-      rowLabels_[at(r)](k)->setVisible(row);
-      for (int j = 0; j < kMrpWeeks; ++j) cells_[at(r)][at(k)](j)->setVisible(row && j < weeks_);
-    }
-  }
   gui::fitToTable(*this);
-}
-
-void MrpSolution::write(const MrpRecords& r) {
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t c = at(k);
-    ArtS_(k)->setText(qs(r.ArtS[c]));
-    Stock_(k)->setText(qs(r.Stock[c]));
-    StockSeg_(k)->setText(qs(r.StockSeg[c]));
-    TSS_(k)->setText(qs(r.TSS[c]));
-    const MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row)
-      for (int j = 0; j < kMrpWeeks; ++j)
-        cells_[at(row)][c](j)->setText(qs((*rows[row])[c][at(j)]));
-  }
-}
-
-MrpRecords MrpSolution::read() const {
-  MrpRecords r;
-  r.articles = articles_;
-  r.weeks = weeks_;
-  for (int k = 0; k < kMrpArticles; ++k) {
-    const std::size_t c = at(k);
-    r.ArtS[c] = ArtS_(k)->text().toStdString();
-    r.Stock[c] = Stock_(k)->text().toStdString();
-    r.StockSeg[c] = StockSeg_(k)->text().toStdString();
-    r.TSS[c] = TSS_(k)->text().toStdString();
-    MrpGrid<std::string>* rows[5] = {&r.NB, &r.RP, &r.ID, &r.NN, &r.LP};
-    for (int row = 0; row < 5; ++row)
-      for (int j = 0; j < kMrpWeeks; ++j)
-        (*rows[row])[c][at(j)] = cells_[at(row)][c](j)->text().toStdString();
-  }
-  return r;
 }
 
 void MrpSolution::formLoad() { SolutionScreen::formActivate(); }
 
 Pages MrpSolution::compute() {
-  const MrpFields f = entry<MrpEntry>().fields();
-  const MrpRecords records = solve(f);
-  articles_ = records.articles;
-  weeks_ = records.weeks;
-  write(records);
+  const MrpFields f = entry<gui::DescribedEntry<MrpFields>>().fields();
+  const MrpLoadedSolution loaded(f);
+  articles_ = loaded.records.articles;
+  weeks_ = loaded.records.weeks;
+  eachRecordCell(loaded.records, [this](const std::string& name, const std::string& text,
+                                        bool visible) {
+    QWidget* w = Picture1_->findChild<QWidget*>(qs(name));
+    if (auto* box = qobject_cast<QLineEdit*>(w)) box->setText(qs(text));
+    if (auto* label = qobject_cast<QLabel*>(w)) label->setText(qs(text));
+    if (w) w->setVisible(visible);
+  });
   layOut(f);
-  // What the screen shows is what its cells hold.
-  const MrpRecords shown = read();
-  return {report(f, shown), printout(f, shown)};
+  return loaded.pages;
 }
 
 void MrpSolution::imprimir() {
@@ -425,8 +171,8 @@ void MrpSolution::imprimir() {
   for (QWidget* w : hidden)
     if (w) w->hide();
   for (QLabel* head : heads_) gui::paintColumnHead(head, QColor(0xE0, 0xE0, 0xE0));
-  for (int j = 0; j < std::min(weeks_, kMrpWeeks); ++j)
-    gui::paintColumnHead(Semana_(j), QColor(0xE0, 0xE0, 0xE0));
+  for (int j = 0; j < std::min(weeks_, static_cast<int>(weekHeads_.size())); ++j)
+    gui::paintColumnHead(weekHeads_[j], QColor(0xE0, 0xE0, 0xE0));
   // The form, as tall as 15500 twips, goes on the paper as it stands.
   const int height = 15500 / kTwipsPerPixel;
   viewport_->setFixedHeight(std::max(height - 120, 0));
@@ -442,7 +188,7 @@ void MrpSolution::imprimir() {
 
 void registerMrpScreens() {
   gui::Screens& screens = gui::Screens::instance();
-  screens.add(kEntry, [] { return new MrpEntry(); });
+  screens.add(kEntry, [] { return new gui::DescribedEntry<MrpFields>(mrpForm()); });
   screens.add(kSolution, [] { return new MrpSolution(); });
 }
 

@@ -1,45 +1,18 @@
-// The material requirements screens: GI_MRP, where the product structure,
-// the stock data, the master production schedule and the scheduled receipts
-// are typed, and GI_MRP_Solucion1, which lays out and computes the records
-// once, when it is first loaded.
+// The material requirements screens: GI_MRP drawn from its description, and
+// GI_MRP_Solucion1, which lays out and computes the records once, when it is
+// first loaded, and scrolls them.
 #pragma once
 
-#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <array>
 
-#include "frame/gui/control_array.h"
 #include "frame/gui/model_screens.h"
-#include "inventory/mrp.h"
+#include "inventory/mrp_form.h"
 
 namespace vorel::inventory {
-
-class MrpEntry : public gui::ModelEntry<MrpFields> {
-  Q_OBJECT
- public:
-  MrpEntry();
-  MrpFields fields() const override;
-  void setFields(const MrpFields& f) override;
-
- protected:
-  void nuevo() override {}  // the picture is there, but does nothing on this screen
-  void nuevo(MrpFields&) override {}
-
- private:
-  void rediseñar();
-  void mostrar();
-
-  QComboBox *NArt_, *NSem_, *NoArticulo_;
-  gui::ControlArray<QLineEdit> Art_, NEle_, NEle1_, ID_, Stock_, Sc_, TS_, TamañoLote_, UniPA_;
-  gui::ControlArray<QComboBox> D_, D1_;
-  gui::ControlArray<QLabel> SemPA_;
-  gui::ControlArray<QFrame> FrmArticulo_;
-  std::array<gui::ControlArray<QLabel>, kMrpArticles> SemRP_;
-  std::array<gui::ControlArray<QLineEdit>, kMrpArticles> Unid_;
-};
 
 class MrpSolution : public gui::SolutionScreen {
   Q_OBJECT
@@ -57,20 +30,14 @@ class MrpSolution : public gui::SolutionScreen {
 
  private:
   void layOut(const MrpFields& f);
-  void write(const MrpRecords& r);
-  MrpRecords read() const;
 
   QWidget* viewport_;
   QWidget* Picture1_;
   QScrollBar* VScroll1_;
   QLabel* Image1_;
   std::array<QFrame*, 7> images_{};  // Image4..Image10
-  gui::ControlArray<QLineEdit> ArtS_, Stock_, StockSeg_, TSS_;
-  gui::ControlArray<QLabel> Semana_;
-  std::array<gui::ControlArray<QLabel>, 5> rowLabels_;  // NecesidadesBrutas..LanzamientoP
-  // NB, RP, ID, NN, LP of each article: cells_[row][article](week)
-  std::array<std::array<gui::ControlArray<QLineEdit>, kMrpArticles>, 5> cells_;
-  QList<QLabel*> heads_;  // Articulo, Inventario, SS, Tiempo, Label1
+  QList<QLabel*> heads_;             // Articulo, Inventario, SS, Tiempo, Label1
+  QList<QLabel*> weekHeads_;         // Semana(0)..Semana(9)
   int articles_ = 0, weeks_ = 0;
 };
 

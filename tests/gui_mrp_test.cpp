@@ -1,6 +1,6 @@
 // The material requirements screens driven offscreen: the records computed
 // once per run, the scroll bar over ten articles, the receipt frames and a
-// table of ten weeks reached by typing.
+// table of ten weeks reached by typing in the described entry.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -186,6 +186,20 @@ TEST_F(MrpScreens, TenWeeksAreReachedByTypingAndMostrarShowsOneFrame) {
   EXPECT_FALSE(shown(kEntry, "FrmArticulo(3)"));
   press(kEntry, "Mostrar");
   EXPECT_TRUE(shown(kEntry, "FrmArticulo(3)") && !shown(kEntry, "FrmArticulo(0)"));
+  // A hidden frame's weeks follow Rediseñar too, and show with their frame.
+  choose("NSem", "2");
+  press(kEntry, "Rediseñar");
+  EXPECT_TRUE(shown(kEntry, "UnidC(1)") && !shown(kEntry, "UnidC(2)"));
+  choose("NoArticulo", "ArticuloX");
+  press(kEntry, "Mostrar");
+  EXPECT_TRUE(shown(kEntry, "UnidX(1)") && !shown(kEntry, "UnidX(2)"));
+  choose("NoArticulo", "Articulo");
+  press(kEntry, "Mostrar");
+  EXPECT_FALSE(shown(kEntry, "FrmArticulo(0)") ||
+               control(kEntry, "UnidX(0)")->isVisibleTo(screen(kEntry)));
+  // Each row's dependencies offer their own list.
+  EXPECT_EQ(control<QComboBox>(kEntry, "D(2)")->count(), 2);
+  EXPECT_EQ(control<QComboBox>(kEntry, "D1(2)")->itemText(2), "C");
   // nuevo does nothing on this screen.
   type(kEntry, "ID(0)", "7");
   press(kEntry, "nuevo");

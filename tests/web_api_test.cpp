@@ -39,14 +39,14 @@ class WebApi : public ::testing::Test {
   void TearDown() override { vorel_unload(kEoq); }
 };
 
-TEST_F(WebApi, TheTreeHoldsEveryScreenAndGreysTheModelsNotDescribed) {
+TEST_F(WebApi, TheTreeHoldsEveryScreenAndEveryModelIsAtHand) {
   const std::string tree = vorel_tree();
   int screens = 0;
   for (std::size_t at = 0; (at = tree.find("\"cerrar\":\"", at)) != std::string::npos; ++at)
     ++screens;
   EXPECT_EQ(screens, 86);
-  // The order quantity's and simplex's choices open their screens; a model
-  // not yet described waits, greyed.
+  for (const CatalogueEntry& model : catalogue()) EXPECT_TRUE(model.form) << model.id;
+  // The order quantity's and simplex's choices open their screens.
   EXPECT_THAT(tree,
               HasSubstr(R"("name":"Image3","toolTip":"","caption":"Cantidad Económica de )"
                         R"(Pedido","picture":"cep","action":"show","target":"GI_CantidadE)"
@@ -54,7 +54,6 @@ TEST_F(WebApi, TheTreeHoldsEveryScreenAndGreysTheModelsNotDescribed) {
   EXPECT_THAT(tree, HasSubstr(R"("name":"Image3","toolTip":"","caption":)"
                               R"("Simplex","picture":"simplex","action":"show","target":"PL_Simp)"
                               R"(lex","hides":"ProgramaciónLineal","enabled":true)"));
-  EXPECT_THAT(tree, HasSubstr(R"("toolTip":"Disponible próximamente")"));
   // The kept quirk: DecisionMulticriterio's odd caption, and the chrome's names.
   EXPECT_THAT(tree, HasSubstr("Teoría de Colas. Este tipo de problemas proporcionan información "
                               "crucial "));
@@ -69,9 +68,10 @@ TEST_F(WebApi, LoadingDescribesTheScreensAndStartsFromThePresets) {
                                 R"("dias":{"text":""},"P":{"text":""}})"));
   EXPECT_THAT(loaded, HasSubstr(R"j("text":"Tiempo de suministro (en días)")j"));
   EXPECT_THAT(loaded, HasSubstr(R"("name":"Solucion1")"));
-  EXPECT_THAT(std::string(vorel_load(findModel("mrp")->screen.c_str())), HasSubstr(R"("error")"));
   EXPECT_FALSE(vorel_set(kEoq, "Q", "1"));
-  EXPECT_FALSE(vorel_set(findModel("mrp")->screen.c_str(), "D", "1"));
+  // A screen that is no model's entry has no live fields.
+  EXPECT_THAT(std::string(vorel_load("APrincipal")), HasSubstr(R"("error")"));
+  EXPECT_FALSE(vorel_set("APrincipal", "Titulo1", "1"));
 }
 
 TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
@@ -90,6 +90,36 @@ TEST_F(WebApi, ReportsAreLaidOutInZonesOfTheMeasuredFont) {
               HasSubstr(R"([{"x":6.419,"text":"Solución al problema:  Problema1"}])"));
   for (float& w : widths) w = 1;
   vorel_metrics(widths);
+}
+
+// Material requirements: selectors that hold their text, a dependency list
+// a row, a frame of receipts shown by Mostrar, and records in cells of their
+// own, computed when the solution is first loaded and then shown unchanged.
+TEST(WebApiMrp, FramesFollowMostrarAndTheRecordsAreComputedOnce) {
+  const char* screen = "GI_MRP";
+  const std::string loaded = vorel_load(screen);
+  EXPECT_THAT(loaded, HasSubstr(R"j("NArt":{"text":"2"},"NSem":{"text":"2"},"NoArticulo":{"text":""})j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("name":"D(2)","text":"","toolTip":"","buddy":"","row":3)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("items":["X","A"])j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("D1(1)":{"visible":true,"index":-1})j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("frames":{"3":"FrmArticulo(0)","4":"FrmArticulo(1)",)j"));
+  EXPECT_THAT(loaded, HasSubstr(R"j("FrmArticulo(0)":{"visible":true},"SemRPX(0)")j"));
+  ASSERT_TRUE(vorel_set(screen, "NoArticulo", "ArticuloC"));
+  const std::string shown = vorel_edit(screen, "Mostrar");
+  EXPECT_THAT(shown, HasSubstr(R"j("FrmArticulo(0)":{"visible":false})j"));
+  EXPECT_THAT(shown, HasSubstr(R"j("FrmArticulo(3)":{"visible":true})j"));
+
+  const std::string file = example("mrp/un-nivel.txt");
+  vorel_open(screen, file.data(), static_cast<int>(file.size()));
+  const std::string solved = vorel_solve(screen, 0);
+  EXPECT_THAT(solved, HasSubstr(R"j("LPA(0)":{"text":"100","visible":true})j"));
+  EXPECT_THAT(solved, HasSubstr(R"j("LPA(5)":{"text":"","visible":false})j"));
+  EXPECT_THAT(solved, HasSubstr(R"j("ArtS(2)":{"text":"B","visible":false})j"));
+  EXPECT_THAT(solved, HasSubstr(quoted(golden("mrp/un-nivel.report"))));
+  ASSERT_TRUE(vorel_set(screen, "TamañoLote(1)", "L"));
+  ASSERT_TRUE(vorel_set(screen, "Titulo1", "Otro"));
+  EXPECT_EQ(std::string(vorel_solve(screen, 0)), solved);
+  vorel_unload(screen);
 }
 
 // The browsing commands a solution answers with, shown or not: the names of

@@ -9,6 +9,7 @@
 #include "frame/catalogue.h"
 #include "frame/form.h"
 #include "frame/live_text.h"
+#include "frame/solution_cells.h"
 #include "web/chart_json.h"
 #include "web/json.h"
 
@@ -150,6 +151,9 @@ void write(Json& j, const ui::Description& d) {
   writeList(j, "chrome", d.chrome);
   writeList(j, "commands", d.commands);
   j.field("tablesAcross", d.tablesAcross);
+  j.key("frames").open('{');
+  for (const auto& [group, name] : d.frames) j.field(std::to_string(group), name);
+  j.close('}');
   j.close('}');
 }
 
@@ -181,11 +185,6 @@ const char* kindName(nav::Kind k) {
       return "chart";
   }
   return "entry";
-}
-
-bool described(std::string_view screen) {
-  const CatalogueEntry* model = findModel(std::string(screen));
-  return model && model->form && model->screen == screen;
 }
 
 char hexDigit(unsigned v) { return "0123456789ABCDEF"[v & 15]; }
@@ -308,6 +307,15 @@ const char* solutionOf(EntryForm& f, const Solution& solution) {
   // The chart the page keeps where it is not the one on view.
   if (!(solution.printedChart() == pages.chart))
     j.key("pageChart").raw(chartJson(solution.printedChart()));
+  // Results shown in cells of the screen's own: {"NBX(0)": {"text": " 0",
+  // "visible": true}, ...}.
+  if (const auto* cells = dynamic_cast<const SolutionCells*>(&solution)) {
+    j.key("cells").open('{');
+    cells->eachCell([&j](const std::string& control, const std::string& text, bool visible) {
+      j.key(control).open('{').field("text", text).field("visible", visible).close('}');
+    });
+    j.close('}');
+  }
   j.key("commands").open('{');
   for (const ui::Description* d : f.solutions()) {
     for (const ui::Command& c : d->commands)
@@ -345,8 +353,7 @@ const char* vorel_tree() {
         .field("cerrar", cerrarName(s.cerrar))
         .field("stays", s.resolverStays)
         .field("help", nav::helpPage(s.name))
-        .field("color", hexColor(ui::sectionColor(s.entry.empty() ? s.name : s.entry)))
-        .field("described", described(s.name) || described(s.entry));
+        .field("color", hexColor(ui::sectionColor(s.entry.empty() ? s.name : s.entry)));
     // An entry screen's model: its id (its examples' folder) and what a file
     // run presses before Resolver.
     if (const CatalogueEntry* model = findModel(s.name); model && model->screen == s.name)
@@ -363,7 +370,7 @@ const char* vorel_tree() {
   j.key("menus").open('{');
   for (const nav::MenuInfo& m : nav::menus()) {
     j.key(m.name);
-    write(j, ui::menu(m, described));
+    write(j, ui::menu(m));
   }
   j.close('}');
   j.field("errorTitle", ui::kErrorTitle).field("helpTitle", ui::kHelpTitle);

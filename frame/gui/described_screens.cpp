@@ -122,6 +122,7 @@ void addToTable(QWidget& screen, QFrame* table, std::vector<QWidget*>& above,
     QLabel* head = newColumnHead(table);
     head->setObjectName(text(c.name));
     head->setText(text(c.text));
+    head->setToolTip(text(c.toolTip));
     if (c.width > 0) head->setFixedWidth(c.width);
     place(head);
   } else if (c.kind == ui::ControlKind::Label) {
@@ -272,6 +273,14 @@ DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui
     if (column) column->addStretch();
   }
   if (across) across->addStretch();
+  // A frame takes its name, and its bound visibility alone shows or hides it.
+  for (const auto& [group, name] : d.frames)
+    if (auto it = tables.find(group); it != tables.end()) {
+      QFrame* frame = it->second.first;
+      frame->setObjectName(text(name));
+      frame->setProperty("marco", true);
+      frame->setStyleSheet(frame->styleSheet().replace("QFrame#tabla", "QFrame[marco=\"true\"]"));
+    }
   nameChrome(screen, d);
   return drawn;
 }
@@ -303,6 +312,7 @@ void setListItems(QWidget& list, const std::vector<std::string>& items) {
 
 void showTables(const DescribedControls& drawn) {
   for (QFrame* table : drawn.tables) {
+    if (table->property("marco").toBool()) continue;
     const auto controls = table->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     table->setVisible(std::any_of(controls.begin(), controls.end(),
                                   [](QWidget* w) { return !w->isHidden(); }));

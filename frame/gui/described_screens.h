@@ -28,7 +28,8 @@ struct DescribedControls {
 };
 DescribedControls drawDescribed(EntryScreen& screen, QVBoxLayout* body, const ui::Description& d,
                                 const std::function<void(const std::string& edit)>& runEdit);
-// Shows a table where one of its controls shows, hides it where none does.
+// Shows a table where one of its controls shows, hides it where none does;
+// a frame (see ui::Description::frames) keeps what its binding says.
 void showTables(const DescribedControls& drawn);
 // Gives the window's commands the names the description gives them, where a
 // screen knows one by another name ("Image5" for volver).
@@ -55,8 +56,10 @@ class DescribedEntry : public ModelEntry<Fields> {
     drawn_ = drawDescribed(*this, this->body(), form.entry, [this](const std::string& name) { runEdit(name); });
     // A selector bound to its text takes what is typed in it too.
     for (const Binding<Fields>& b : form_.bindings)
-      if (auto* list = qobject_cast<QComboBox*>(control(b.control)); list && b.text)
+      if (auto* list = qobject_cast<QComboBox*>(control(b.control)); list && b.text) {
         list->setEditable(true);
+        list->setInsertPolicy(QComboBox::NoInsert);  // what is typed joins no list
+      }
     setFields(Fields{});
   }
 

@@ -14,10 +14,6 @@ namespace vorel::gui {
 
 namespace {
 
-bool modelAvailable(std::string_view screen) {
-  return Screens::instance().available(std::string(screen));
-}
-
 QString text(const std::string& s) { return QString::fromStdString(s); }
 
 }  // namespace
@@ -72,7 +68,7 @@ StartScreen::StartScreen() : Screen("AInicio") {
 }
 
 MenuScreen::MenuScreen(const nav::MenuInfo& menu) : Screen(menu.name) {
-  const ui::Description d = ui::menu(menu, modelAvailable);
+  const ui::Description d = ui::menu(menu);
   const bool mainMenu = menu.name == "APrincipal";
   setAccent(sectionColor(menu.name));
   setHeading(text(d.heading));

@@ -61,11 +61,11 @@ export function menuPaths(tree) {
 }
 
 // Through the menus to an entry screen by its pictures: from the screen on
-// view by its gohome, or from a fresh page.
-export async function openModel(site, path, screen) {
+// view by its gohome, or from a fresh page (always where `fresh`).
+export async function openModel(site, path, screen, { fresh = false } = {}) {
   const { page } = site;
   const home = page.locator('#escritorio .banda button[name="gohome"]');
-  if ((await page.evaluate(() => Boolean(window.vorel))) && (await home.count())) {
+  if (!fresh && (await page.evaluate(() => Boolean(window.vorel))) && (await home.count())) {
     await home.click();
     await onView(page, 'APrincipal').waitFor();
   } else {

@@ -60,13 +60,6 @@ test('every section menu is reached by clicks, with its text and its choices', a
     await press(page, 'gohome');
     await onView(page, 'APrincipal').waitFor();
   }
-  // A model not yet in the browser is greyed, with its tool-tip.
-  const [menu, choice] = Object.entries(menus).flatMap(([name, m]) => m.commands
-    .filter((c) => c.target && !menus[c.target] && !c.enabled).map((c) => [name, c]))[0];
-  for (const picture of paths[menu]) await press(page, picture);
-  const greyed = onView(page, menu).locator(`button[name="${choice.name}"]`);
-  assert.equal(await greyed.isDisabled(), true);
-  assert.equal(await greyed.getAttribute('title'), 'Disponible próximamente');
 });
 
 test('the intervals selector shows the rows it chooses, keeping what they hold', async () => {

@@ -42,7 +42,7 @@ for (const width of [1280, 390]) {
     }
   }
   const paths = menuPaths(tree);
-  const models = tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model
+  const models = tree.screens.filter((s) => s.kind === 'entry' && s.model
     && (!only || only.includes(s.model)));
   for (const model of models) {
     await openModel(site, paths[model.name], model.name);
@@ -54,7 +54,7 @@ for (const width of [1280, 390]) {
     for (const name of presses) await press(page, name);
     if (presses.length > 0) await shoot(`${model.name}_${presses.join('_')}`);  // what they show
     await press(page, 'Resolver');
-    await page.locator('#escritorio .solution .informe .linea').first().waitFor();
+    await page.locator('#escritorio .solution .informe[data-text]').waitFor();
     await shoot(`${model.name}_Solucion`);
     const subsystem = paths[model.name][1];
     if (width > 600 && !printed.has(subsystem)) {

@@ -5,7 +5,9 @@
 import { el } from './dom.mjs';
 import { messageBox, showHelp } from './dialogs.mjs';
 import { paintReport, clearReport, gatherPage, printGathered, gathered } from './report.mjs';
-import { startScreen, menuScreen, entryScreen, solutionScreen, showFields, showCommands } from './screens.mjs';
+import {
+  startScreen, menuScreen, entryScreen, solutionScreen, showFields, showCommands, showSolutionCells,
+} from './screens.mjs';
 import { chartSvg } from './chart.mjs';
 
 const START_MS = 2000;
@@ -171,7 +173,8 @@ export class Desk {
   showSolution(name, solved) {
     const screen = this.loaded.get(name);
     screen.pages = solved;
-    paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
+    if (solved.cells) showSolutionCells(screen.element.querySelector('.informe'), solved);
+    else paintReport(screen.element.querySelector('.informe'), solved, this.averageEm);
     showCommands(screen.element, solved.commands, solved.offered);
     screen.element.querySelector('.grafico')?.remove();
     if (solved.chart) {

@@ -78,6 +78,18 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked, foc
           oninput: (e) => typed(c.name, e.target.value),
         });
       case 'selector':
+        // A selector that holds its text takes what is typed in it too: a
+        // box with its list.
+        if (fields[c.name] && 'text' in fields[c.name] && !('index' in fields[c.name])) {
+          const box = el('input', {
+            type: 'text', id: id(c.name), name: c.name, className: 'combo',
+            title: c.toolTip || undefined, autocomplete: 'off', spellcheck: false, hidden: !c.visible, ...at(c),
+            style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
+            oninput: (e) => typed(c.name, e.target.value),
+          });
+          box.setAttribute('list', id(`${c.name}-lista`));
+          return [box, el('datalist', { id: id(`${c.name}-lista`) }, c.items.map((item) => el('option', { value: item })))];
+        }
         return el('select', {
           id: id(c.name), name: c.name, title: c.toolTip || undefined, hidden: !c.visible, ...at(c),
           style: [place(c), c.width && `width: ${c.width}px`].filter(Boolean).join('; ') || undefined,
@@ -115,16 +127,17 @@ export function entryScreen(info, d, fields, press, { typed, chosen, ticked, foc
         return el(c.row < 0 ? 'p' : 'span', {
           className: c.row < 0 ? 'intro' : c.group === 0 ? 'texto' : c.row === 0 ? 'cabecera' : 'rotulo',
           name: c.name || undefined, textContent: c.text, style: place(c), hidden: !c.visible, ...at(c),
+          title: c.toolTip || undefined,
         });
     }
   };
-  const group = (n) => d.controls.filter((c) => c.group === n).map(draw);
+  const group = (n) => d.controls.filter((c) => c.group === n).flatMap(draw);
   // Each table, the text above it first.
   const groups = [...new Set(d.controls.map((c) => c.group).filter((g) => g >= 1))].sort((a, b) => a - b);
   const tables = groups.map((g) => {
     const drawn = group(g);
     return [drawn.filter((e) => e.tagName === 'P'),
-      el('div', { className: 'tabla', role: 'group', ...tableColumns(d.controls.filter((c) => c.group === g)) },
+      el('div', { className: 'tabla', role: 'group', name: d.frames?.[g], ...tableColumns(d.controls.filter((c) => c.group === g)) },
         drawn.filter((e) => e.tagName !== 'P'))];
   });
   const title = el('div', { className: 'titulo' }, draw(d.titleLabel), draw(d.titleField));
@@ -159,14 +172,15 @@ function tableColumns(controls) {
   return { 'data-widths': JSON.stringify(widths) };
 }
 
-// A solution screen: the report box (painted by report.mjs), its browsing
-// commands and Imprimir.
+// A solution screen: the report box (painted by report.mjs, or holding the
+// cells its solution fills), its browsing commands and Imprimir.
 export function solutionScreen(info, d, press) {
   const report = d.controls.find((c) => c.kind === 'report');
+  const cells = d.controls.filter((c) => c.group >= 1);
   const box = el('div', {
     className: 'informe', name: report.name, role: 'document', tabIndex: 0,
     'aria-label': d.heading, 'data-columns': report.width, 'data-lines': report.height,
-  });
+  }, cells.length ? solutionCells(cells) : null);
   const commands = d.commands.map((c) => {
     const picture = commandPicture(c, press, { captioned: true });
     if (c.action === 'browse' || c.action === 'show') {
@@ -180,6 +194,47 @@ export function solutionScreen(info, d, press) {
     .map((c) => el('p', { className: 'rotulo-solucion', name: c.name, textContent: c.text }));
   return windowFrame(ownChrome(info, d), d.heading, press, ...labels, box,
     el('div', { className: 'ordenes' }, commands));
+}
+
+// The cells a solution fills (the records of material requirements), each at
+// its place on the grid, and the labels over and beside them.
+function solutionCells(controls) {
+  const widths = [];
+  for (const c of controls) {
+    if (c.width && c.columnSpan === 1) widths[c.column] = Math.max(widths[c.column] ?? 0, c.width);
+  }
+  const place = (c) => `grid-row: ${c.row + 1}; grid-column: ${c.column + 1}${
+    c.columnSpan > 1 ? ` / span ${c.columnSpan}` : ''}`;
+  // A cell is read by the label of its row and the lowest head over its column.
+  const labelAt = (row, column) => controls.find((o) => o.kind === 'label' && o.row === row
+    && column >= o.column && column < o.column + o.columnSpan);
+  const read = (c) => [labelAt(c.row, 0), labelAt(1, c.column) ?? labelAt(0, c.column)]
+    .filter(Boolean).map((o) => o.text).join(', ') || c.name;
+  return el('div', {
+    className: 'tabla celdas', role: 'group',
+    style: `grid-template-columns: ${[...widths].map((w) => (w ? `${w}px` : 'max-content')).join(' ')}`,
+  }, controls.map((c) => (c.kind === 'cell'
+    ? el('input', {
+      type: 'text', name: c.name, className: 'cell', readOnly: true, title: c.toolTip || undefined,
+      'aria-label': read(c), style: place(c), hidden: true,
+    })
+    : el('span', {
+      className: c.row <= 1 ? 'cabecera' : 'rotulo', name: c.name || undefined, textContent: c.text,
+      title: c.toolTip || undefined, style: place(c),
+    }))));
+}
+
+// A solution's cells on its screen: each one's text and whether it shows;
+// the report stays at hand for a copy.
+export function showSolutionCells(box, solved) {
+  for (const [name, state] of Object.entries(solved.cells)) {
+    const control = box.querySelector(`[name="${CSS.escape(name)}"]`);
+    if (!control) continue;
+    if (control.tagName === 'INPUT') control.value = state.text;
+    else control.textContent = state.text;
+    control.hidden = !state.visible;
+  }
+  box.dataset.text = solved.text;
 }
 
 // The window's commands under the names the screen's description gives them
