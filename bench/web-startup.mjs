@@ -40,7 +40,7 @@ for (let run = 0; run < runs; run += 1) {
 const tree = await page.evaluate(() => window.vorel.tree);
 const paths = menuPaths(tree);
 const perExample = [];
-for (const model of tree.screens.filter((s) => s.kind === 'entry' && s.described && s.model)) {
+for (const model of tree.screens.filter((s) => s.kind === 'entry' && s.model)) {
   const folder = `${root}/examples/${model.model}`;
   for (const file of readdirSync(folder).filter((f) => f.endsWith('.txt'))) {
     await openModel(site, paths[model.name], model.name);
