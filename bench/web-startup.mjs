@@ -2,7 +2,7 @@
 // loads: from the page's start to the start screen (the module loaded and the
 // font measured) and to the main menu (after the start screen's two seconds),
 // and from pressing Resolver on the economic order quantity to its painted
-// report; then Resolver to painted for every example of every described model,
+// report; then Resolver to painted for every example of every model,
 // and the site's download. Needs `make web web-deps`:
 // node bench/web-startup.mjs [RUNS].
 import { readdirSync } from 'node:fs';

@@ -22,7 +22,7 @@ after(async () => {
 
 const tree = () => page.evaluate(() => window.vorel.tree);
 
-// The described models, the pictures that lead to their entry screens.
+// Models, the pictures that lead to their entry screens.
 const MODELS = [
   { id: 'cep', screen: 'GI_CantidadEconómicaPedido', path: ['Image6', 'Image3', 'Image3'] },
   { id: 'cep-gradual', screen: 'GI_CEPGradual', path: ['Image6', 'Image3', 'Image9'] },
