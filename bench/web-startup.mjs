@@ -40,11 +40,11 @@ for (let run = 0; run < runs; run += 1) {
 const tree = await page.evaluate(() => window.vorel.tree);
 const paths = menuPaths(tree);
 const perExample = [];
-let stillRunning = false;  // a method that never ends keeps the page busy: the next starts afresh
 for (const model of tree.screens.filter((s) => s.kind === 'entry' && s.model)) {
   const folder = `${root}/examples/${model.model}`;
   for (const file of readdirSync(folder).filter((f) => f.endsWith('.txt'))) {
-    await openModel(site, paths[model.name], model.name, { fresh: stillRunning });
+    // Each on a fresh page: a method that never ends, or a run-time error, leaves the last busy.
+    await openModel(site, paths[model.name], model.name, { fresh: true });
     const [chooser] = await Promise.all([page.waitForEvent('filechooser'), press(page, 'abrir')]);
     await chooser.setFiles(`${folder}/${file}`);
     await page.evaluate(() => window.vorel.reading);
@@ -58,7 +58,6 @@ for (const model of tree.screens.filter((s) => s.kind === 'entry' && s.model)) {
       });
     }), model.solutions[0]);
     if (solved !== null) perExample.push({ example: `${model.model}/${file}`, ms: solved });
-    stillRunning = solved === null;
     if (await page.locator('dialog[open]').count()) await page.keyboard.press('Escape');
     if (await page.locator('dialog[open]').count()) await page.keyboard.press('Enter');
   }
