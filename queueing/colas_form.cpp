@@ -9,16 +9,10 @@ namespace {
 using ui::ControlKind;
 using F = ColasFields;
 
+// A control on the grid of fields.
 ui::Control fieldControl(ControlKind kind, std::string name, std::string text, int row, int column,
-                    int width = 0) {
-  ui::Control c;
-  c.kind = kind;
-  c.name = std::move(name);
-  c.text = std::move(text);
-  c.row = row;
-  c.column = column;
-  c.width = width;
-  return c;
+                         int width = 0) {
+  return ui::control(kind, std::move(name), std::move(text), 0, row, column, width);
 }
 
 // A caption naming the control `buddy`; a width breaks it at its runs of blanks.
